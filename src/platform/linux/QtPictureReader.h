@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/PictureReader.h"
+
+namespace quillford {
+
+/// Decodes with the toolkit's image readers; needs QtGui, but no display.
+class QtPictureReader final : public PictureReader {
+public:
+    [[nodiscard]] std::optional<QSize> pixelSize(const QString& path) override;
+};
+
+} // namespace quillford
