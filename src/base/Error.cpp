@@ -5,7 +5,10 @@
 namespace quillford {
 
 Error::Error(qint64 number, QString description, QString source, qint64 offset)
-    : number_(number), description_(std::move(description)), source_(std::move(source)),
-      offset_(offset), what_(description_.toUtf8()) {}
+    : number_(number),
+      description_(std::move(description)),
+      source_(std::move(source)),
+      offset_(offset),
+      what_(description_.toUtf8()) {}
 
 } // namespace quillford

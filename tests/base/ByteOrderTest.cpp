@@ -1,8 +1,7 @@
 #include "base/ByteOrder.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
+#include <gtest/gtest.h>
 
 using namespace quillford;
 

@@ -3,7 +3,6 @@
 #include "support/PrintQt.h"
 
 #include <gtest/gtest.h>
-
 #include <limits>
 
 using namespace quillford;

@@ -21,9 +21,12 @@ void makePrivateFolder(const QString& path) {
     QDir().mkpath(QFileInfo(path).path());
     const QByteArray name = QFile::encodeName(path);
     if (mkdir(name.constData(), 0700) != 0 && errno != EEXIST)
-        throw Error(errno, QStringLiteral("The folder for temporary files \"%1\" cannot be made: %2")
-                               .arg(path, QString::fromLocal8Bit(strerror(errno))));
+        throw Error(errno,
+                    QStringLiteral("The folder for temporary files \"%1\" cannot be made: %2")
+                        .arg(path, QString::fromLocal8Bit(strerror(errno))));
+
     struct stat status {};
+
     if (lstat(name.constData(), &status) != 0 || !S_ISDIR(status.st_mode) ||
         status.st_uid != geteuid() || chmod(name.constData(), 0700) != 0)
         throw Error(EACCES,

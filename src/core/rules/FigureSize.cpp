@@ -1,0 +1,55 @@
+#include "core/rules/FigureSize.h"
+
+#include <QFileInfo>
+
+#include <cmath>
+
+namespace quillford {
+
+namespace {
+
+constexpr int MaxWidth = 660;
+constexpr int MaxHeight = 810;
+
+/// The rounding mode of a program that never sets one is half to even.
+int rounded(double length) {
+    return static_cast<int>(std::nearbyint(length));
+}
+
+} // namespace
+
+QSize computeFigureSize(QSize pixels) {
+    const double width = pixels.width();
+    const double height = pixels.height();
+    const bool tooWide = pixels.width() >= MaxWidth;
+    const bool tooHigh = pixels.height() >= MaxHeight;
+    const double widthAtMaxHeight = width * MaxHeight / height;
+
+    if (!tooWide && !tooHigh)
+        return pixels;
+    if (!tooWide)
+        return {rounded(widthAtMaxHeight), MaxWidth};
+    if (!tooHigh || width >= height)
+        return {MaxWidth, rounded(height * MaxWidth / width)};
+    if (widthAtMaxHeight <= MaxWidth)
+        return {rounded(widthAtMaxHeight), MaxHeight};
+    return {MaxWidth, rounded(double{MaxWidth} * MaxHeight / widthAtMaxHeight)};
+}
+
+QString figurePath(const ProjectFields& fields, int index) {
+    const QString attached = fields.txtAttachFig(index).trimmedText();
+    if (!attached.isEmpty() && QFileInfo::exists(attached))
+        return attached;
+    return fields.figureState(index).workingCopy;
+}
+
+void measureFigures(ProjectFields& fields, PictureReader& pictures) {
+    for (int i = 0; i < fields.panelCount(FieldGroup::Figures); ++i) {
+        const auto pixels = pictures.pixelSize(figurePath(fields, i));
+        const QSize size = pixels ? computeFigureSize(*pixels) : QSize();
+        fields.figureState(i).sizeText =
+            pixels ? QStringLiteral("%1, %2").arg(size.width()).arg(size.height()) : QString();
+    }
+}
+
+} // namespace quillford

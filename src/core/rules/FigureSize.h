@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/fields/ProjectFields.h"
+#include "platform/PictureReader.h"
+
+#include <QSize>
+
+namespace quillford {
+
+/// The size in pixels at which the Final Draft shows a picture of `pixels`, fitted into 660 by 810
+/// and never enlarged. A picture under 660 wide and at least 810 tall comes out squeezed: its width
+/// is scaled as if the height were 810, and the height is 660. Fractions are rounded half to even.
+[[nodiscard]] QSize computeFigureSize(QSize pixels);
+
+/// Puts the draft size of every figure with an attached picture beside its field, as "width,
+/// height". The picture is the file named in `txtAttachFig(i)`, or the working copy where that file
+/// is gone; the size of one that cannot be read is emptied.
+void measureFigures(ProjectFields& fields, PictureReader& pictures);
+
+/// The file from which figure `index` is drawn: the one named in `txtAttachFig(i)` when the name is
+/// not blank and the file exists, otherwise the working copy's path, whether that exists or not.
+[[nodiscard]] QString figurePath(const ProjectFields& fields, int index);
+
+} // namespace quillford

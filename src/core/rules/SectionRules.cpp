@@ -1,0 +1,143 @@
+#include "core/rules/SectionRules.h"
+
+#include "base/Error.h"
+#include "core/rules/Completeness.h"
+
+#include <algorithm>
+
+namespace quillford {
+
+namespace {
+
+const QString Ok = QStringLiteral("OK");
+const QString Warning = QStringLiteral("WARNING");
+
+const QString& statusOf(bool complete) {
+    return complete ? Ok : Warning;
+}
+
+bool hasSection(int tab) {
+    return tab >= 0 && tab < SectionRules::SectionCount;
+}
+
+} // namespace
+
+SectionRules::SectionRules(const ProjectFields& fields, const ProjectState& state, TabLooks& looks,
+                           UserPrompts& prompts)
+    : fields_(fields), state_(state), looks_(looks), prompts_(prompts) {}
+
+const QString& SectionRules::tag(int tab) const {
+    return tags_.at(static_cast<std::size_t>(tab));
+}
+
+bool SectionRules::isComplete(int tab) const {
+    return tag(tab) == Ok;
+}
+
+QList<int> SectionRules::incompleteSections() const {
+    QList<int> sections;
+    for (int tab = 0; tab < SectionCount; ++tab)
+        if (!isComplete(tab))
+            sections.append(tab + 1);
+    return sections;
+}
+
+/// Runs a step whose failure the user is told of, and nobody else.
+template <typename Step>
+void SectionRules::trapped(Step step) {
+    try {
+        step();
+    } catch (const Error& error) {
+        looks_.setDefaultPointer();
+        prompts_.showMessage(UserPrompts::Icon::None, QStringLiteral("Error"), error.description());
+    }
+}
+
+void SectionRules::validateSection(int tab) {
+    if (hasSection(tab))
+        trapped([&] { tags_.at(static_cast<std::size_t>(tab)) = statusOf(sectionIsFilled(tab)); });
+}
+
+void SectionRules::refreshSection(int tab) {
+    trapped([&] {
+        if (hasSection(tab))
+            setSectionStatus(tab, statusOf(sectionIsFilled(tab)));
+        const bool complete = incompleteSections().isEmpty();
+        setSectionStatus(FinalDraftTab, statusOf(complete));
+        if (!complete)
+            looks_.enableDraftCommands(false);
+    });
+}
+
+void SectionRules::setSectionStatus(int tab, const QString& status) {
+    looks_.setTabLook(tab, status == Ok ? TabLook::Complete : TabLook::Incomplete);
+    tags_.at(static_cast<std::size_t>(tab)) = status;
+}
+
+bool SectionRules::sectionIsFilled(int tab) const {
+    using Rule = bool (SectionRules::*)() const;
+    static constexpr Rule Rules[SectionCount] = {
+        &SectionRules::introductionIsFilled,  &SectionRules::inventorsAreFilled,
+        &SectionRules::objectsAreFilled,      &SectionRules::figuresAreFilled,
+        &SectionRules::mainElementsAreFilled, &SectionRules::subElementsAreFilled,
+        &SectionRules::descriptionsAreFilled, &SectionRules::operationIsFilled,
+    };
+    Q_ASSERT(hasSection(tab));
+    return (this->*Rules[tab])();
+}
+
+bool SectionRules::introductionIsFilled() const {
+    return requiredSinglesAreFilled(1);
+}
+
+bool SectionRules::inventorsAreFilled() const {
+    const auto table = fieldTable();
+    return std::all_of(table.begin(), table.end(), [this](const FieldRow& row) {
+        return row.group != FieldGroup::Inventors || row.required != FieldRequired::Yes ||
+               isFilledWhereVisible(fields_.array(row.id));
+    });
+}
+
+bool SectionRules::objectsAreFilled() const {
+    return requiredSinglesAreFilled(3) && allFieldsFilled(fields_.txtObject);
+}
+
+bool SectionRules::figuresAreFilled() const {
+    if (fields_.cboFiguresNum.number() == 0)
+        return true;
+    return isFilledWhereVisible(fields_.txtAttachFig) && allFieldsFilled(fields_.cboFigureType) &&
+           allViewsChosen(fields_.cboFigureType) && allFieldsFilled(fields_.txtFigureDetail);
+}
+
+bool SectionRules::mainElementsAreFilled() const {
+    return requiredSinglesAreFilled(5) && allFieldsFilled(fields_.txtElementName) &&
+           allFieldsFilled(fields_.txtElementDes);
+}
+
+bool SectionRules::subElementsAreFilled() const {
+    return allFieldsFilled(fields_.txtElementMain);
+}
+
+bool SectionRules::descriptionsAreFilled() const {
+    return allFieldsFilled(fields_.txtMainElementNameDetail) && requiredSinglesAreFilled(7);
+}
+
+bool SectionRules::operationIsFilled() const {
+    return requiredSinglesAreFilled(8);
+}
+
+bool SectionRules::requiredSinglesAreFilled(int section) const {
+    const auto table = fieldTable();
+    return std::all_of(table.begin(), table.end(), [this, section](const FieldRow& row) {
+        return row.section != section || row.group != FieldGroup::Single ||
+               row.required != FieldRequired::Yes || fields_.at(row.id).isFilled();
+    });
+}
+
+bool SectionRules::isFilledWhereVisible(const FieldArray& fields) const {
+    const int visible = fields_.panelCount(fields.row().group);
+    return visibleFieldsFilled(fields, visible, state_.isOpening).answer ==
+           VisibleFieldsFilled::Answer::AllFilled;
+}
+
+} // namespace quillford
