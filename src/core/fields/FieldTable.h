@@ -31,6 +31,10 @@ enum class FieldGroup {
 
 inline constexpr std::size_t FieldGroupCount = 7;
 
+inline constexpr FieldGroup RepeatingGroups[] = {FieldGroup::Inventors,   FieldGroup::Objects,
+                                                 FieldGroup::Figures,     FieldGroup::MainElements,
+                                                 FieldGroup::SubElements, FieldGroup::Descriptions};
+
 /// Text and MultiLine are typed into, the latter with a vertical scroll bar or without; Combo takes
 /// typing and a choice, List a choice only; Check is "0" or "1" (a third state, "2", comes from
 /// files that another program wrote).

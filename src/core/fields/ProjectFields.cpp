@@ -42,10 +42,6 @@ const MemberPlace& placeOf(FieldId id) {
     return Places[static_cast<std::size_t>(id)];
 }
 
-constexpr FieldGroup RepeatingGroups[] = {FieldGroup::Inventors,   FieldGroup::Objects,
-                                          FieldGroup::Figures,     FieldGroup::MainElements,
-                                          FieldGroup::SubElements, FieldGroup::Descriptions};
-
 constexpr std::size_t slot(FieldGroup group) {
     return static_cast<std::size_t>(group);
 }
