@@ -18,7 +18,7 @@ constexpr qint64 InvalidData = 13; // the program's number for a value of the wr
 const QString VerifyPassedKey = QStringLiteral("verifyPassed");
 
 [[noreturn]] void refuse(QStringView key, const QString& reason) {
-    throw Error(InvalidData, QStringLiteral("\"%1\" %2").arg(key, reason), key.toString());
+    throw Error(InvalidData, QStringLiteral("\"%1\" %2").arg(key, reason));
 }
 
 QJsonObject parsed(const QByteArray& json) {

@@ -6,6 +6,8 @@
 namespace quillford {
 
 std::optional<QSize> QtPictureReader::pixelSize(const QString& path) {
+    if (path.isEmpty())
+        return std::nullopt;
     constexpr int MegabytesHeld = 256;
     QImageReader::setAllocationLimit(MegabytesHeld);
     QImageReader reader(path);

@@ -1,0 +1,68 @@
+#include "cli/CliProgram.h"
+
+#include "base/Error.h"
+#include "cli/CliPrompts.h"
+#include "cli/ExportCommand.h"
+#include "cli/ShowCommand.h"
+
+#include <exception>
+
+namespace quillford {
+
+namespace {
+
+const QString SeeHelp = QStringLiteral("quillford-cli --help lists the commands");
+
+QString indented(QString text) {
+    return QStringLiteral("      ") +
+           text.replace(QStringLiteral("\n"), QStringLiteral("\n      "));
+}
+
+} // namespace
+
+CliProgram::CliProgram(CliContext& context) : context_(context) {
+    commands_.push_back(std::make_unique<ShowCommand>());
+    commands_.push_back(std::make_unique<ExportCommand>());
+}
+
+int CliProgram::run(const QStringList& arguments) {
+    try {
+        return static_cast<int>(dispatch(arguments));
+    } catch (const Error& error) {
+        writeErrorLine(context_.errors, error.source(), error.description());
+    } catch (const std::exception& error) {
+        writeErrorLine(context_.errors, {}, QString::fromUtf8(error.what()));
+    }
+    return static_cast<int>(ExitStatus::Failed);
+}
+
+ExitStatus CliProgram::dispatch(const QStringList& arguments) {
+    const QString first = arguments.value(0);
+    if (first == u"--help" || first == u"-h") {
+        context_.output.write(helpText().toUtf8());
+        return ExitStatus::Done;
+    }
+    if (first == u"--version") {
+        context_.output.write("quillford-cli 3.1\n");
+        return ExitStatus::Done;
+    }
+    for (const auto& command : commands_)
+        if (command->name() == first)
+            return command->run(arguments.sliced(1), context_);
+    if (first.isEmpty())
+        throw Error(0, QStringLiteral("no command; %1").arg(SeeHelp));
+    throw Error(0, QStringLiteral("is no command; %1").arg(SeeHelp), first);
+}
+
+QString CliProgram::helpText() const {
+    QString help = QStringLiteral("quillford-cli composes provisional patent applications.\n\n"
+                                  "A PROJECT is a JSON file with the project's fields.\n\n");
+    for (const auto& command : commands_)
+        help += QStringLiteral("  quillford-cli %1 %2\n%3\n")
+                    .arg(command->name(), command->usage(), indented(command->description()));
+    return help + QStringLiteral("  quillford-cli --help | --version\n\n"
+                                 "Exit status: 0 done; 2 a usage error or a failure, told in one "
+                                 "line on standard error.\n");
+}
+
+} // namespace quillford

@@ -1,0 +1,127 @@
+#include "cli/ExportCommand.h"
+
+#include "cli/CliPrompts.h"
+#include "core/rules/FigureSize.h"
+#include "core/rules/SectionRules.h"
+#include "draft/compose/HtmlComposer.h"
+#include "draft/compose/IndexComposer.h"
+
+#include <QFileInfo>
+#include <QHash>
+
+namespace quillford {
+
+namespace {
+
+const QString HtmlOption = QStringLiteral("html");
+const QString IndexOption = QStringLiteral("index");
+const QString IncompleteOption = QStringLiteral("incomplete");
+
+constexpr int SectionNotComplete = 5;
+
+/// Every option that names a file to be written.
+const QStringList& outputOptions() {
+    static const QStringList options{HtmlOption, IndexOption};
+    return options;
+}
+
+/// The section rules' view of a window that is not there.
+class NoTabs final : public TabLooks {
+public:
+    void setTabLook(int, TabLook) override {}
+
+    void enableDraftCommands(bool) override {}
+
+    void setDefaultPointer() override {}
+};
+
+QString sectionList(const QList<int>& sections) {
+    QStringList numbers;
+    for (const int section : sections)
+        numbers.append(QString::number(section));
+    return (numbers.size() > 1 ? QStringLiteral("Sections ") : QStringLiteral("Section ")) +
+           numbers.join(QStringLiteral(", "));
+}
+
+void requireComplete(const Project& project, UserPrompts& prompts) {
+    NoTabs tabs;
+    SectionRules rules(project.fields, project.state, tabs, prompts);
+    for (int tab = 0; tab < SectionRules::SectionCount; ++tab)
+        rules.validateSection(tab);
+    const QList<int> incomplete = rules.incompleteSections();
+    if (!incomplete.isEmpty())
+        throw Error(SectionNotComplete,
+                    QStringLiteral("data is missing from %1; --incomplete exports all the same")
+                        .arg(sectionList(incomplete)));
+}
+
+/// Where a file of this name lies, once it is there.
+QString placeOf(const QString& path) {
+    const QFileInfo file(path);
+    const QString canonical = file.canonicalFilePath();
+    return canonical.isEmpty() ? file.absoluteFilePath() : canonical;
+}
+
+[[noreturn]] void raiseFailure(const std::optional<Error>& failure, const QString& path) {
+    if (!failure)
+        throw Error(SectionNotComplete, QStringLiteral("the template cannot be opened"), path);
+    throw *failure;
+}
+
+void exportHtml(const Project& project, const QString& path, CliContext& context,
+                UserPrompts& prompts) {
+    HtmlComposer composer(project.fields, context.folders, prompts);
+    QString written; // an empty text asks for a file
+    if (!composer.ExportToHTML(path, written))
+        raiseFailure(composer.failure(), path);
+}
+
+void exportIndex(const Project& project, const QString& path, CliContext& context,
+                 UserPrompts& prompts) {
+    IndexComposer composer(project.fields, context.folders, prompts);
+    QString html;
+    if (!composer.ExportToIndex(html))
+        raiseFailure(composer.failure(), path);
+    HTMLTemplate().SaveAs(path, html);
+}
+
+} // namespace
+
+void ExportCommand::addOptions(QCommandLineParser& parser) const {
+    for (const QString& option : outputOptions())
+        parser.addOption({option, QString(), QStringLiteral("FILE")});
+    parser.addOption(QCommandLineOption(IncompleteOption));
+}
+
+/// No output may replace another one, or the project it is made from.
+void ExportCommand::checkOptions(const QCommandLineParser& parser,
+                                 const QString& projectPath) const {
+    QHash<QString, QString> taken{{placeOf(projectPath), QStringLiteral("the project")}};
+    for (const QString& option : outputOptions()) {
+        if (!parser.isSet(option))
+            continue;
+        const QString path = parser.value(option);
+        if (path.isEmpty())
+            refuse(name(), QStringLiteral("--%1 expects the name of a file").arg(option));
+        if (taken.contains(placeOf(path)))
+            refuse(path, QStringLiteral("--%1 would replace %2").arg(option, taken[placeOf(path)]));
+        taken.insert(placeOf(path), QStringLiteral("the output of --%1").arg(option));
+    }
+    if (taken.size() == 1)
+        refuse(name(), QStringLiteral("expects an output: %1 %2").arg(name(), usage()));
+}
+
+ExitStatus ExportCommand::execute(const QCommandLineParser& parser, Project& project,
+                                  CliContext& context) {
+    CliPrompts prompts(context.errors);
+    if (!parser.isSet(IncompleteOption))
+        requireComplete(project, prompts);
+    measureFigures(project.fields, context.pictures);
+    if (parser.isSet(HtmlOption))
+        exportHtml(project, parser.value(HtmlOption), context, prompts);
+    if (parser.isSet(IndexOption))
+        exportIndex(project, parser.value(IndexOption), context, prompts);
+    return ExitStatus::Done;
+}
+
+} // namespace quillford

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "cli/Command.h"
+
+namespace quillford {
+
+/// Writes the Final Draft and what belongs to it into files.
+class ExportCommand final : public Command {
+public:
+    [[nodiscard]] QString name() const override { return QStringLiteral("export"); }
+
+    [[nodiscard]] QString usage() const override {
+        return QStringLiteral("PROJECT [--html FILE] [--index FILE] [--incomplete]");
+    }
+
+    [[nodiscard]] QString description() const override {
+        return QStringLiteral(
+            "writes the Final Draft as HTML and the Index of Elements as a page;\n"
+            "refused while a section is incomplete, unless --incomplete is given");
+    }
+
+protected:
+    void addOptions(QCommandLineParser& parser) const override;
+    void checkOptions(const QCommandLineParser& parser, const QString& projectPath) const override;
+    ExitStatus execute(const QCommandLineParser& parser, Project& project,
+                       CliContext& context) override;
+};
+
+} // namespace quillford

@@ -1,0 +1,25 @@
+#include "cli/CliProgram.h"
+#include "cli/CliPrompts.h"
+#include "platform/linux/LinuxFolders.h"
+#include "platform/linux/QtPictureReader.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <cstdio>
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    QFile output;
+    QFile errors;
+    if (!output.open(stdout, QIODevice::WriteOnly) || !errors.open(stderr, QIODevice::WriteOnly))
+        return static_cast<int>(quillford::ExitStatus::Failed);
+    quillford::LinuxFolders folders;
+    quillford::QtPictureReader pictures;
+    quillford::CliContext context{output, errors, folders, pictures};
+    const int status = quillford::CliProgram(context).run(QCoreApplication::arguments().sliced(1));
+    if (output.flush())
+        return status;
+    quillford::writeErrorLine(errors, QStringLiteral("standard output"), output.errorString());
+    return static_cast<int>(quillford::ExitStatus::Failed);
+}

@@ -1,0 +1,32 @@
+#include "draft/compose/TemplateFile.h"
+
+#include "base/Files.h"
+
+#include <QFile>
+#include <QRandomGenerator>
+
+namespace quillford {
+
+QString writeTemplateFile(const QString& templateName, Folders& folders) {
+    constexpr int Names = 10000;
+    const QString path = QStringLiteral("%1/Temp%2.htm")
+                             .arg(folders.temporaryFolder())
+                             .arg(QRandomGenerator::global()->bounded(Names));
+    const QByteArray content =
+        contentOfFile(QStringLiteral(":/templates/%1.htm").arg(templateName));
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) < 0 || !file.flush())
+        raiseFileError(file);
+    return path;
+}
+
+bool loadTemplateFile(HTMLTemplate& page, const QString& name, const QString& path,
+                      UserPrompts& prompts) {
+    if (page.Load(name, path))
+        return true;
+    prompts.showMessage(UserPrompts::Icon::Critical, QStringLiteral("Error"),
+                        QStringLiteral("Can not open the html template"));
+    return false;
+}
+
+} // namespace quillford

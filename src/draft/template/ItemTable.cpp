@@ -1,0 +1,57 @@
+#include "draft/template/ItemTable.h"
+
+namespace quillford {
+
+namespace {
+
+bool hasBracket(QStringView text) {
+    return text.contains(u'[') || text.contains(u']');
+}
+
+} // namespace
+
+void ItemTable::set(const QString& name, const QString& value) {
+    Item& item = itemNamed(name);
+    itemsWithBracket_ -= item.valueHasBracket ? 1 : 0;
+    item.value = value;
+    item.valueHasBracket = hasBracket(value);
+    itemsWithBracket_ += item.valueHasBracket ? 1 : 0;
+}
+
+void ItemTable::append(const QString& name, const QString& value) {
+    Item& item = itemNamed(name);
+    item.value += value;
+    if (!item.valueHasBracket && hasBracket(value)) {
+        item.valueHasBracket = true;
+        ++itemsWithBracket_;
+    }
+}
+
+void ItemTable::remove(const QString& name) {
+    const auto place = places_.constFind(name);
+    if (place == places_.constEnd())
+        return;
+    const std::size_t removed = *place;
+    itemsWithBracket_ -= items_[removed].valueHasBracket ? 1 : 0;
+    itemsWithBracket_ -= hasBracket(name) ? 1 : 0;
+    items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(removed));
+    places_.remove(name);
+    for (std::size_t& other : places_)
+        other -= other > removed ? 1 : 0;
+}
+
+const ItemTable::Item* ItemTable::find(const QString& name) const {
+    const auto place = places_.constFind(name);
+    return place == places_.constEnd() ? nullptr : &items_[*place];
+}
+
+ItemTable::Item& ItemTable::itemNamed(const QString& name) {
+    const auto place = places_.constFind(name);
+    if (place != places_.constEnd())
+        return items_[*place];
+    places_.insert(name, items_.size());
+    itemsWithBracket_ += hasBracket(name) ? 1 : 0;
+    return items_.emplace_back(Item{name, u'[' + name + u']', {}, false});
+}
+
+} // namespace quillford
