@@ -37,14 +37,16 @@ QSize computeFigureSize(QSize pixels) {
 }
 
 QString figurePath(const ProjectFields& fields, int index) {
-    const QString attached = fields.txtAttachFig(index).trimmedText();
-    if (!attached.isEmpty() && QFileInfo::exists(attached))
-        return attached;
+    const Field& attached = fields.txtAttachFig(index);
+    if (attached.isFilled() && QFileInfo(attached.text()).isFile())
+        return attached.text();
     return fields.figureState(index).workingCopy;
 }
 
 void measureFigures(ProjectFields& fields, PictureReader& pictures) {
     for (int i = 0; i < fields.panelCount(FieldGroup::Figures); ++i) {
+        if (!fields.txtAttachFig(i).isFilled())
+            continue;
         const auto pixels = pictures.pixelSize(figurePath(fields, i));
         const QSize size = pixels ? computeFigureSize(*pixels) : QSize();
         fields.figureState(i).sizeText =

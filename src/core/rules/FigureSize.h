@@ -14,11 +14,13 @@ namespace quillford {
 
 /// Puts the draft size of every figure with an attached picture beside its field, as "width,
 /// height". The picture is the file named in `txtAttachFig(i)`, or the working copy where that file
-/// is gone; the size of one that cannot be read is emptied.
+/// is gone; the size of one that cannot be read is emptied. A figure without an attached picture
+/// keeps the size it had.
 void measureFigures(ProjectFields& fields, PictureReader& pictures);
 
-/// The file from which figure `index` is drawn: the one named in `txtAttachFig(i)` when the name is
-/// not blank and the file exists, otherwise the working copy's path, whether that exists or not.
+/// The file from which figure `index` is drawn: the one named in `txtAttachFig(i)`, as the name
+/// stands, when it is not blank and such a file (no folder) exists; otherwise the working copy's
+/// path, whether that exists or not.
 [[nodiscard]] QString figurePath(const ProjectFields& fields, int index);
 
 } // namespace quillford
