@@ -1,5 +1,6 @@
 #include "platform/linux/QtPictureReader.h"
 
+#include <QFile>
 #include <QImage>
 #include <QImageReader>
 
@@ -10,7 +11,11 @@ std::optional<QSize> QtPictureReader::pixelSize(const QString& path) {
         return std::nullopt;
     constexpr int MegabytesHeld = 256;
     QImageReader::setAllocationLimit(MegabytesHeld);
-    QImageReader reader(path);
+    // Given a mere name, the reader would also try it with every ending that it knows.
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(false);
     // Only a picture that really decodes has a size: the header of a damaged one proves nothing.
