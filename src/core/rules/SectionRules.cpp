@@ -4,6 +4,7 @@
 #include "core/rules/Completeness.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace quillford {
 
@@ -14,6 +15,12 @@ const QString Warning = QStringLiteral("WARNING");
 
 const QString& statusOf(bool complete) {
     return complete ? Ok : Warning;
+}
+
+/// A braced list is evaluated from left to right and to its end: every term of a rule is looked at
+/// in its order, whatever the ones before it said.
+bool allOf(std::initializer_list<bool> terms) {
+    return std::all_of(terms.begin(), terms.end(), [](bool term) { return term; });
 }
 
 bool hasSection(int tab) {
@@ -91,27 +98,28 @@ bool SectionRules::introductionIsFilled() const {
 }
 
 bool SectionRules::inventorsAreFilled() const {
-    const auto table = fieldTable();
-    return std::all_of(table.begin(), table.end(), [this](const FieldRow& row) {
-        return row.group != FieldGroup::Inventors || row.required != FieldRequired::Yes ||
-               isFilledWhereVisible(fields_.array(row.id));
-    });
+    bool filled = true;
+    for (const FieldRow& row : fieldTable())
+        if (row.group == FieldGroup::Inventors && row.required == FieldRequired::Yes)
+            filled &= isFilledWhereVisible(fields_.array(row.id));
+    return filled;
 }
 
 bool SectionRules::objectsAreFilled() const {
-    return requiredSinglesAreFilled(3) && allFieldsFilled(fields_.txtObject);
+    return allOf({requiredSinglesAreFilled(3), allFieldsFilled(fields_.txtObject)});
 }
 
 bool SectionRules::figuresAreFilled() const {
     if (fields_.cboFiguresNum.number() == 0)
         return true;
-    return isFilledWhereVisible(fields_.txtAttachFig) && allFieldsFilled(fields_.cboFigureType) &&
-           allViewsChosen(fields_.cboFigureType) && allFieldsFilled(fields_.txtFigureDetail);
+    return allOf({isFilledWhereVisible(fields_.txtAttachFig),
+                  allFieldsFilled(fields_.cboFigureType), allViewsChosen(fields_.cboFigureType),
+                  allFieldsFilled(fields_.txtFigureDetail)});
 }
 
 bool SectionRules::mainElementsAreFilled() const {
-    return requiredSinglesAreFilled(5) && allFieldsFilled(fields_.txtElementName) &&
-           allFieldsFilled(fields_.txtElementDes);
+    return allOf({requiredSinglesAreFilled(5), allFieldsFilled(fields_.txtElementName),
+                  allFieldsFilled(fields_.txtElementDes)});
 }
 
 bool SectionRules::subElementsAreFilled() const {
@@ -119,7 +127,7 @@ bool SectionRules::subElementsAreFilled() const {
 }
 
 bool SectionRules::descriptionsAreFilled() const {
-    return allFieldsFilled(fields_.txtMainElementNameDetail) && requiredSinglesAreFilled(7);
+    return allOf({allFieldsFilled(fields_.txtMainElementNameDetail), requiredSinglesAreFilled(7)});
 }
 
 bool SectionRules::operationIsFilled() const {
@@ -127,11 +135,12 @@ bool SectionRules::operationIsFilled() const {
 }
 
 bool SectionRules::requiredSinglesAreFilled(int section) const {
-    const auto table = fieldTable();
-    return std::all_of(table.begin(), table.end(), [this, section](const FieldRow& row) {
-        return row.section != section || row.group != FieldGroup::Single ||
-               row.required != FieldRequired::Yes || fields_.at(row.id).isFilled();
-    });
+    bool filled = true;
+    for (const FieldRow& row : fieldTable())
+        if (row.section == section && row.group == FieldGroup::Single &&
+            row.required == FieldRequired::Yes)
+            filled &= fields_.at(row.id).isFilled();
+    return filled;
 }
 
 bool SectionRules::isFilledWhereVisible(const FieldArray& fields) const {
