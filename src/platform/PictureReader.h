@@ -15,7 +15,8 @@ public:
 
     /// Width and height in pixels of the picture in the file `path`. Nothing when the file is
     /// missing, is no picture, or is one that cannot be decoded (one too large to be held in 256 MB
-    /// included). Of an animated picture, its first frame.
+    /// included). A picture whose last rows are missing counts where its decoder shows the others.
+    /// Of an animated picture, its first frame.
     [[nodiscard]] virtual std::optional<QSize> pixelSize(const QString& path) = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/linux/QtPictureReader.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
 
@@ -11,9 +12,10 @@ std::optional<QSize> QtPictureReader::pixelSize(const QString& path) {
         return std::nullopt;
     constexpr int MegabytesHeld = 256;
     QImageReader::setAllocationLimit(MegabytesHeld);
-    // Given a mere name, the reader would also try it with every ending that it knows.
+    // Given a mere name, the reader would also try it with every ending that it knows. Only files
+    // are opened: opening a pipe would wait for somebody to write into it.
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
