@@ -5,11 +5,14 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QLoggingCategory>
 
 #include <cstdio>
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
+    // Standard error holds the program's own line and nothing of the toolkit's.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.warning=false"));
     QFile output;
     QFile errors;
     if (!output.open(stdout, QIODevice::WriteOnly) || !errors.open(stderr, QIODevice::WriteOnly))

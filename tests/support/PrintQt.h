@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSize>
 #include <QString>
 #include <QStringView>
 
@@ -18,4 +19,8 @@ inline void PrintTo(const QString& text, std::ostream* out) {
 
 inline void PrintTo(const QByteArray& bytes, std::ostream* out) {
     *out << '"' << bytes.toStdString() << '"';
+}
+
+inline void PrintTo(const QSize& size, std::ostream* out) {
+    *out << size.width() << " by " << size.height();
 }

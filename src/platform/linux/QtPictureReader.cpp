@@ -8,8 +8,6 @@
 namespace quillford {
 
 std::optional<QSize> QtPictureReader::pixelSize(const QString& path) {
-    if (path.isEmpty())
-        return std::nullopt;
     constexpr int MegabytesHeld = 256;
     QImageReader::setAllocationLimit(MegabytesHeld);
     // Given a mere name, the reader would also try it with every ending that it knows. Only files
