@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
@@ -34,14 +35,55 @@ void makePrivateFolder(const QString& path) {
                         .arg(path));
 }
 
+/// The folder that the user has chosen for temporary files; who else may use it is the user's own
+/// affair.
+QString namedTemporaryFolder(const QString& name) {
+    const QString folder = QDir::cleanPath(QDir::current().absoluteFilePath(name));
+    if (!QDir().mkpath(folder))
+        throw Error(
+            ENOENT,
+            QStringLiteral("The folder for temporary files \"%1\" cannot be made.").arg(folder));
+    return folder;
+}
+
+/// One of the base folders that the desktop's programs agree on. A variable that holds no full path
+/// does not count.
+QString baseFolder(const char* variable, const QString& belowHome) {
+    const QString named = qEnvironmentVariable(variable);
+    return QDir::isAbsolutePath(named) ? QDir::cleanPath(named) : QDir::home().filePath(belowHome);
+}
+
 } // namespace
+
+QString LinuxFolders::programFile() {
+    return QCoreApplication::applicationFilePath();
+}
+
+QString LinuxFolders::programFolder() {
+    return QCoreApplication::applicationDirPath();
+}
+
+QString LinuxFolders::documentsFolder() {
+    const QString named = qEnvironmentVariable("XDG_DOCUMENTS_DIR");
+    if (QDir::isAbsolutePath(named))
+        return QDir::cleanPath(named);
+    return QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
+
+QString LinuxFolders::configurationFolder() {
+    return baseFolder("XDG_CONFIG_HOME", QStringLiteral(".config")) + QStringLiteral("/Quillford");
+}
+
+QString LinuxFolders::localDataFolder() {
+    return baseFolder("XDG_DATA_HOME", QStringLiteral(".local/share"));
+}
 
 QString LinuxFolders::temporaryFolder() {
     const QString named = qEnvironmentVariable("Temp");
     if (!named.isEmpty())
-        return QDir::cleanPath(named);
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
-                           QStringLiteral("/Quillford");
+        return namedTemporaryFolder(named);
+    const QString folder =
+        baseFolder("XDG_CACHE_HOME", QStringLiteral(".cache")) + QStringLiteral("/Quillford");
     makePrivateFolder(folder);
     return folder;
 }
