@@ -29,7 +29,7 @@ void makeWorkDir(const QString& folder) {
 
 QString WorkFolders::getWorkDir() {
     const QString name = QDir(folders_.programFolder()).dirName();
-    const QString folder = QDir(folders_.documentsFolder()).filePath(name);
+    QString folder = QDir(folders_.documentsFolder()).filePath(name);
     if (!QFileInfo(folder).isDir())
         makeWorkDir(folder);
     return folder;
@@ -63,7 +63,7 @@ QString WorkFolders::nextFreeName(const QString& prefix, const QString& extensio
                                   const QString& folder) {
     const QDir places(folder);
     for (int number = 1; number <= MostNumbers; ++number) {
-        const QString name = prefix + u' ' + QString::number(number) + u'.' + extension;
+        QString name = prefix + u' ' + QString::number(number) + u'.' + extension;
         if (!isTaken(places.filePath(name)))
             return name;
     }

@@ -63,11 +63,11 @@ QByteArray FileSettingsStore::stored() const {
     QFile file(path_);
     if (!info.isFile() || !file.open(QIODevice::ReadOnly))
         fail(EACCES, path_, QStringLiteral("cannot be read: %1").arg(file.errorString()));
-    const QByteArray bytes = file.read(MostBytes + 1);
+    if (file.size() > MostBytes)
+        fail(EFBIG, path_, QStringLiteral("is too large."));
+    QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         fail(EIO, path_, QStringLiteral("cannot be read: %1").arg(file.errorString()));
-    if (bytes.size() > MostBytes)
-        fail(EFBIG, path_, QStringLiteral("is too large."));
     return bytes;
 }
 

@@ -21,7 +21,7 @@ public:
     static constexpr std::chrono::milliseconds Patience{5000};
 
     /// A file that is larger is none of ours: it is neither read nor written.
-    static constexpr qint64 MostBytes = 16 * 1024 * 1024;
+    static constexpr qint64 MostBytes = qint64{16} * 1024 * 1024;
 
     explicit FileSettingsStore(QString path, std::chrono::milliseconds patience = Patience);
 

@@ -26,24 +26,28 @@ bool needsNumber(QStringView text, qsizetype i) {
     }
 }
 
-QString numbered(QChar character) {
-    return QStringLiteral("\\u%1").arg(character.unicode(), DigitsOfCodeUnit, 16, QChar(u'0'));
-}
-
-QString escaped(QStringView text, qsizetype i) {
+void appendEscaped(QString& line, QStringView text, qsizetype i) {
     switch (text[i].unicode()) {
     case u'"':
-        return QStringLiteral("\\\"");
     case u'\\':
-        return QStringLiteral("\\\\");
+        line += Escape;
+        line += text[i];
+        return;
     case u'\n':
-        return QStringLiteral("\\n");
+        line += QStringLiteral("\\n");
+        return;
     case u'\r':
-        return QStringLiteral("\\r");
+        line += QStringLiteral("\\r");
+        return;
     case u'\t':
-        return QStringLiteral("\\t");
+        line += QStringLiteral("\\t");
+        return;
     default:
-        return needsNumber(text, i) ? numbered(text[i]) : QString(text[i]);
+        if (needsNumber(text, i))
+            line +=
+                QStringLiteral("\\u%1").arg(text[i].unicode(), DigitsOfCodeUnit, 16, QChar(u'0'));
+        else
+            line += text[i];
     }
 }
 
@@ -88,8 +92,9 @@ std::optional<QChar> takeEscaped(QStringView& rest) {
 QString quoted(QStringView text) {
     QString line(Mark);
     for (qsizetype i = 0; i < text.size(); ++i)
-        line += escaped(text, i);
-    return line + Mark;
+        appendEscaped(line, text, i);
+    line += Mark;
+    return line;
 }
 
 std::optional<QString> takeQuoted(QStringView& rest) {

@@ -14,7 +14,7 @@ inline constexpr int Places = 5;
 [[nodiscard]] inline QString entryOf(int number) {
     return QStringLiteral("/home/ann/Größe %1.ivd|QF=%1|\"Easel\"\r\nof [wood]\n%1|")
         .arg(number)
-        .repeated(20);
+        .repeated(5);
 }
 
 [[nodiscard]] inline int numberOf(const SettingsValues& values, const QString& name) {

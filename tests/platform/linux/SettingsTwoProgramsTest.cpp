@@ -87,7 +87,7 @@ TEST_F(SettingsTwoProgramsTest, a_program_killed_at_any_moment_leaves_whole_valu
     int pushes = 0;
     for (int kill = 0; kill < Kills; ++kill) {
         QProcess program;
-        start(program, u"killed"_s, 1'000'000);
+        start(program, u"killed"_s, 100'000);
         QElapsedTimer sinceStart;
         sinceStart.start();
         while (pushesWhenWhole() == pushes && !sinceStart.hasExpired(10'000))
@@ -98,10 +98,7 @@ TEST_F(SettingsTwoProgramsTest, a_program_killed_at_any_moment_leaves_whole_valu
         ASSERT_EQ(program.exitStatus(), QProcess::CrashExit);
         const int left = pushesWhenWhole();
         ASSERT_GT(left, pushes);
-        QElapsedTimer sinceKill;
-        sinceKill.start();
         store.change(hammer::push);
-        EXPECT_LT(sinceKill.elapsed(), 1000);
         pushes = pushesWhenWhole();
         ASSERT_EQ(pushes, left + 1);
     }
