@@ -1,6 +1,7 @@
 #include "cli/CliProgram.h"
 
 #include "base/Error.h"
+#include "cli/CheckCommand.h"
 #include "cli/CliPrompts.h"
 #include "cli/ExportCommand.h"
 #include "cli/ShowCommand.h"
@@ -23,6 +24,7 @@ QString indented(QString text) {
 CliProgram::CliProgram(CliContext& context) : context_(context) {
     commands_.push_back(std::make_unique<ShowCommand>());
     commands_.push_back(std::make_unique<ExportCommand>());
+    commands_.push_back(std::make_unique<CheckCommand>());
 }
 
 int CliProgram::run(const QStringList& arguments) {
@@ -61,8 +63,8 @@ QString CliProgram::helpText() const {
         help += QStringLiteral("  quillford-cli %1 %2\n%3\n")
                     .arg(command->name(), command->usage(), indented(command->description()));
     return help + QStringLiteral("  quillford-cli --help | --version\n\n"
-                                 "Exit status: 0 done; 2 a usage error or a failure, told in one "
-                                 "line on standard error.\n");
+                                 "Exit status: 0 done; 1 check found something; 2 a usage error or "
+                                 "a failure,\ntold in one line on standard error.\n");
 }
 
 } // namespace quillford

@@ -1,10 +1,12 @@
 #include "cli/ExportCommand.h"
 
+#include "cli/CheckedSections.h"
 #include "cli/CliPrompts.h"
+#include "cli/CliVerification.h"
 #include "core/rules/FigureSize.h"
-#include "core/rules/SectionRules.h"
 #include "draft/compose/HtmlComposer.h"
 #include "draft/compose/IndexComposer.h"
+#include "verification/engine/ErrorReportComposer.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -15,25 +17,16 @@ namespace {
 
 const QString HtmlOption = QStringLiteral("html");
 const QString IndexOption = QStringLiteral("index");
+const QString ReportOption = QStringLiteral("report");
 const QString IncompleteOption = QStringLiteral("incomplete");
 
 constexpr int SectionNotComplete = 5;
 
 /// Every option that names a file to be written.
 const QStringList& outputOptions() {
-    static const QStringList options{HtmlOption, IndexOption};
+    static const QStringList options{HtmlOption, IndexOption, ReportOption};
     return options;
 }
-
-/// The section rules' view of a window that is not there.
-class NoTabs final : public TabLooks {
-public:
-    void setTabLook(int, TabLook) override {}
-
-    void enableDraftCommands(bool) override {}
-
-    void setDefaultPointer() override {}
-};
 
 QString sectionList(const QList<int>& sections) {
     QStringList numbers;
@@ -44,11 +37,8 @@ QString sectionList(const QList<int>& sections) {
 }
 
 void requireComplete(const Project& project, UserPrompts& prompts) {
-    NoTabs tabs;
-    SectionRules rules(project.fields, project.state, tabs, prompts);
-    for (int tab = 0; tab < SectionRules::SectionCount; ++tab)
-        rules.validateSection(tab);
-    const QList<int> incomplete = rules.incompleteSections();
+    const CheckedSections sections(project, prompts);
+    const QList<int> incomplete = sections.rules().incompleteSections();
     if (!incomplete.isEmpty())
         throw Error(SectionNotComplete,
                     QStringLiteral("data is missing from %1; --incomplete exports all the same")
@@ -81,6 +71,16 @@ void exportIndex(const Project& project, const QString& path, CliContext& contex
     IndexComposer composer(project.fields, context.folders, prompts);
     QString html;
     if (!composer.ExportToIndex(html))
+        raiseFailure(composer.failure(), path);
+    HTMLTemplate().SaveAs(path, html);
+}
+
+void exportReport(const Project& project, const QString& path, CliContext& context,
+                  UserPrompts& prompts) {
+    const VerificationState verification = verifyProject(project.fields);
+    ErrorReportComposer composer(verification.lists, context.folders, prompts);
+    QString html;
+    if (!composer.ExportToErrorReport(html))
         raiseFailure(composer.failure(), path);
     HTMLTemplate().SaveAs(path, html);
 }
@@ -121,6 +121,8 @@ ExitStatus ExportCommand::execute(const QCommandLineParser& parser, Project& pro
         exportHtml(project, parser.value(HtmlOption), context, prompts);
     if (parser.isSet(IndexOption))
         exportIndex(project, parser.value(IndexOption), context, prompts);
+    if (parser.isSet(ReportOption))
+        exportReport(project, parser.value(ReportOption), context, prompts);
     return ExitStatus::Done;
 }
 
