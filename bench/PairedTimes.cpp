@@ -1,0 +1,47 @@
+#include "PairedTimes.h"
+
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
+namespace quillford {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Microseconds = std::chrono::duration<double, std::micro>;
+
+constexpr int UncountedRuns = 5;
+constexpr std::size_t FewestRuns = 100;
+constexpr std::chrono::seconds Duration{2};
+
+double microsecondsOf(const std::function<void()>& run) {
+    const Clock::time_point start = Clock::now();
+    run();
+    return Microseconds(Clock::now() - start).count();
+}
+
+double median(std::vector<double> times) {
+    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+    std::nth_element(times.begin(), middle, times.end());
+    return *middle;
+}
+
+} // namespace
+
+PairedTimes measuredInTurns(const std::function<void()>& ours, const std::function<void()>& peer) {
+    for (int i = 0; i < UncountedRuns; ++i) {
+        ours();
+        peer();
+    }
+    std::vector<double> ourTimes;
+    std::vector<double> peerTimes;
+    const Clock::time_point end = Clock::now() + Duration;
+    while (Clock::now() < end || ourTimes.size() < FewestRuns) {
+        ourTimes.push_back(microsecondsOf(ours));
+        peerTimes.push_back(microsecondsOf(peer));
+    }
+    return {median(ourTimes), median(peerTimes), static_cast<int>(ourTimes.size())};
+}
+
+} // namespace quillford
