@@ -3,6 +3,7 @@
 #include "base/Text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillford {
 
@@ -24,19 +25,15 @@ bool Corpus::contains(QStringView text) const {
         return true;
     const QString needle = upperCase(text);
     const qsizetype rarest = rarestPlace(needle);
-    if (occurrences(needle[rarest]) == 0)
+    const QChar unit = needle[rarest];
+    if (occurrences(unit) == 0)
         return false;
     const QStringView all = upper_;
-    const qsizetype last = all.size() - needle.size();
-    qsizetype start = 0;
-    while (start <= last) {
-        start = all.indexOf(needle[rarest], start + rarest) - rarest;
-        if (start < 0 || start > last)
-            return false;
-        if (all.sliced(start, needle.size()) == needle)
+    const qsizetype lastPlace = all.size() - needle.size() + rarest;
+    for (qsizetype place = all.indexOf(unit, rarest); place >= 0 && place <= lastPlace;
+         place = all.indexOf(unit, place + 1))
+        if (all.sliced(place - rarest, needle.size()) == needle)
             return true;
-        ++start;
-    }
     return false;
 }
 
