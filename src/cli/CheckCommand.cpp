@@ -4,7 +4,7 @@
 #include "cli/CliPrompts.h"
 #include "cli/CliVerification.h"
 #include "persistence/project/JsonText.h"
-#include "verification/engine/EnterBoxText.h"
+#include "verification/engine/ElementCell.h"
 
 namespace quillford {
 
@@ -67,11 +67,13 @@ QString summary(const Findings& findings) {
     return QStringLiteral("%1 missing from the text").arg(misses);
 }
 
+/// The names stand in quotation marks, so that two blanks in a row can be seen and no control
+/// character reaches a terminal.
 QString nameLines(const QString& kind, const MissingList& list) {
     QString lines;
     for (const MissingEntry& entry : list.entries())
-        lines += QStringLiteral("  %1 %2: %3\n")
-                     .arg(kind, entry.cell.numeral(), moveVbctrlf(entry.text));
+        lines +=
+            QStringLiteral("  %1 %2: %3\n").arg(kind, entry.cell.numeral(), jsonString(entry.text));
     return lines;
 }
 

@@ -108,8 +108,8 @@ TEST_F(CheckCommandTest, what_is_missing_is_listed_with_its_numeral) {
     project[u"txtElementSub3"_s] = QJsonArray{u"pin\r\nhead"_s};
     EXPECT_EQ(check(project), 1);
     EXPECT_EQ(text().section(u"Verification"_s, 1), u": 3 missing from the text\n"
-                                                    "  Main Element 10: doorpost\n"
-                                                    "  Sub-Element 13: pin head\n"
+                                                    "  Main Element 10: \"doorpost\"\n"
+                                                    "  Sub-Element 13: \"pin\\r\\nhead\"\n"
                                                     "  Reference Numerals 13\n"_s);
 }
 
