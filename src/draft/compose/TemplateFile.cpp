@@ -9,9 +9,8 @@ namespace quillford {
 
 QString writeTemplateFile(const QString& templateName, Folders& folders) {
     constexpr int Names = 10000;
-    const QString path = QStringLiteral("%1/Temp%2.htm")
-                             .arg(folders.temporaryFolder())
-                             .arg(QRandomGenerator::global()->bounded(Names));
+    const int number = QRandomGenerator::global()->bounded(Names);
+    const QString path = folders.temporaryFolder() + QStringLiteral("/Temp%1.htm").arg(number);
     const QByteArray content =
         contentOfFile(QStringLiteral(":/templates/%1.htm").arg(templateName));
     QFile file(path);
