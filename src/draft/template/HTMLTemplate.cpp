@@ -74,8 +74,8 @@ void HTMLTemplate::UnSetItem(const QString& name) {
 
 void HTMLTemplate::SetBlock(const QString& parent, const QString& block,
                             const QString& placeholder) {
-    const QRegularExpression pattern = blockPattern(block);
     const QString source = blockNamed(parent).text();
+    const QRegularExpression pattern = blockPattern(block);
     const QString mark = u'[' + (placeholder.isEmpty() ? block : placeholder) + u']';
     QString rest = source;
     for (const QRegularExpressionMatch& match : pattern.globalMatch(source)) {
