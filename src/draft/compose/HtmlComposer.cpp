@@ -32,6 +32,16 @@ QString closedText(const Field& field) {
     return withPeriod(field.text());
 }
 
+/// Until the wizard has left Section 5, a Main Element may have no description yet; a draft without
+/// it would be wrong.
+void requireDescriptions(const ProjectFields& fields, int elements) {
+    constexpr int MissingPanel = 340; // the runtime's number for a control that does not exist
+    const int described = fields.panelCount(FieldGroup::Descriptions);
+    if (described < elements)
+        throw Error(MissingPanel,
+                    QStringLiteral("Main Element %1 has no description").arg(described + 1));
+}
+
 } // namespace
 
 HtmlComposer::HtmlComposer(const ProjectFields& fields, Folders& folders, UserPrompts& prompts)
@@ -62,7 +72,7 @@ bool HtmlComposer::compose(HTMLTemplate& page) {
     fillFigureDescriptions(page);
     fillMainElements(page);
     setClosing(page);
-    repeatTitles(page);
+    setAbstractTitles(page);
     fillDrawings(page);
     fillIndexBlock(page, PageBlock, fields_);
     page.Parse(Page, PageBlock, QStringLiteral("False"));
@@ -139,7 +149,9 @@ void HtmlComposer::fillMainElements(HTMLTemplate& page) const {
     const QString target = QStringLiteral("DME");
     page.SetItem(QStringLiteral("5-GENERAL-DE"), closedText(fields_.txtMainElement));
     page.SetBlock(PageBlock, block, target);
-    for (int i = 0; i < fields_.panelCount(FieldGroup::MainElements); ++i) {
+    const int elements = fields_.panelCount(FieldGroup::MainElements);
+    requireDescriptions(fields_, elements);
+    for (int i = 0; i < elements; ++i) {
         page.SetItem(QStringLiteral("B-MAIN ELEMENT"), headingLetter(i));
         page.SetItem(QStringLiteral("5-MAIN ELEMENT"),
                      properCaseWords(fields_.txtElementName(i).trimmedText()));
@@ -168,8 +180,8 @@ void HtmlComposer::setClosing(HTMLTemplate& page) const {
     page.SetItem(QStringLiteral("9-OPERATION"), finished(fields_.txtOperation, Route::Html));
 }
 
-/// The items of the abstract. Those that were set before keep their place in the table.
-void HtmlComposer::repeatTitles(HTMLTemplate& page) const {
+/// What the abstract needs beside the items that are set already.
+void HtmlComposer::setAbstractTitles(HTMLTemplate& page) const {
     page.SetItem(QStringLiteral("1-INVENTION TITLE_U"),
                  upperCase(fields_.txtInventionTitle.trimmedText()));
     page.SetItem(QStringLiteral("A/An"), properCaseWords(titleArticle(fields_)));

@@ -40,7 +40,7 @@ private:
     void fillFigureDescriptions(HTMLTemplate& page) const;
     void fillMainElements(HTMLTemplate& page) const;
     void setClosing(HTMLTemplate& page) const;
-    void repeatTitles(HTMLTemplate& page) const;
+    void setAbstractTitles(HTMLTemplate& page) const;
     void fillDrawings(HTMLTemplate& page) const;
 
     [[nodiscard]] bool hasFigures() const;

@@ -34,8 +34,8 @@ void ItemTable::remove(const QString& name) {
     const std::size_t removed = *place;
     itemsWithBracket_ -= items_[removed].valueHasBracket ? 1 : 0;
     itemsWithBracket_ -= hasBracket(name) ? 1 : 0;
+    places_.remove(name); // before the item, which may own this very name
     items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(removed));
-    places_.remove(name);
     for (std::size_t& other : places_)
         other -= other > removed ? 1 : 0;
 }
