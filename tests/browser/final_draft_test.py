@@ -4,7 +4,6 @@
     final_draft_test.py QUILLFORD_CLI SOURCE_TREE
 """
 import json
-import os
 import re
 import subprocess
 import sys
@@ -28,9 +27,8 @@ IMAGE = re.compile(r'<img src="file:///(.*?)" width ="(\d*)" height ="(\d*)"> ')
 def export(project, name):
     """Composes the draft of a project file and prints it; gives the page's text and the paper."""
     page = FOLDER / f"{name}.htm"
-    environment = {**os.environ, "HOME": str(FOLDER), "Temp": str(FOLDER)}
     subprocess.run([CLI, "export", project, "--html", page, "--incomplete"], check=True,
-                   env=environment)
+                   env=printing.environment(FOLDER))
     return page.read_text(encoding="utf-8"), printing.print_page(page, FOLDER)
 
 

@@ -131,13 +131,20 @@ def _output(*command):
     return subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout
 
 
+def environment(folder):
+    """An environment in which a program meets no file of the user."""
+    variables = ("HOME", "Temp", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME",
+                 "XDG_STATE_HOME", "XDG_RUNTIME_DIR")
+    return {**os.environ, **{variable: str(folder) for variable in variables}}
+
+
 def print_page(page, folder):
     """Prints the HTML file `page` and gives the paper. Everything is written below `folder`."""
     pdf = Path(folder) / (Path(page).stem + ".pdf")
     command = ["chromium", *CHROMIUM_OPTIONS, f"--user-data-dir={folder}/profile",
                f"--print-to-pdf={pdf}", Path(page).as_uri()]
     browser = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                               start_new_session=True)
+                               env=environment(folder), start_new_session=True)
     try:
         messages, _ = browser.communicate(timeout=SECONDS_FOR_CHROMIUM)
     except subprocess.TimeoutExpired:
