@@ -20,4 +20,14 @@ QByteArray contentOfFile(const QString& path) {
     return content;
 }
 
+void writeAll(QFileDevice& file, const QByteArray& bytes) {
+    // On a full disk a write may be short without an error; the next one has it.
+    for (qint64 written = 0; written < bytes.size();) {
+        const qint64 count = file.write(bytes.constData() + written, bytes.size() - written);
+        if (count <= 0)
+            raiseFileError(file);
+        written += count;
+    }
+}
+
 } // namespace quillford

@@ -12,4 +12,8 @@ namespace quillford {
 /// The whole content of the file `path`. Raises `Error` naming the file when it cannot be read.
 [[nodiscard]] QByteArray contentOfFile(const QString& path);
 
+/// Writes all the bytes to a file that was opened without a buffer. Raises `Error` naming the file
+/// when they do not all find room; a part of them may be written then.
+void writeAll(QFileDevice& file, const QByteArray& bytes);
+
 } // namespace quillford

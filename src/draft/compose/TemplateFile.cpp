@@ -14,8 +14,9 @@ QString writeTemplateFile(const QString& templateName, Folders& folders) {
     const QByteArray content =
         contentOfFile(QStringLiteral(":/templates/%1.htm").arg(templateName));
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) < 0 || !file.flush())
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         raiseFileError(file);
+    writeAll(file, content);
     return path;
 }
 

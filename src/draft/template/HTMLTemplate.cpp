@@ -33,20 +33,6 @@ QString withLineEnds(QStringView text) {
     return result;
 }
 
-/// On a full disk a write may be short without an error, which the next one then has; what is left
-/// in the buffer is written here and not by `commit`, which would not look at the outcome.
-void writeAll(QSaveFile& file, const QByteArray& bytes) {
-    qint64 written = 0;
-    while (written < bytes.size()) {
-        const qint64 count = file.write(bytes.constData() + written, bytes.size() - written);
-        if (count <= 0)
-            raiseFileError(file);
-        written += count;
-    }
-    if (!file.flush())
-        raiseFileError(file);
-}
-
 QRegularExpression blockPattern(const QString& block) {
     const QRegularExpression pattern(
         QStringLiteral("&lt;!--BEGIN %1--&gt;([\\s\\S.]*)&lt;!--END %1--&gt;").arg(block),
@@ -67,7 +53,8 @@ bool HTMLTemplate::Load(const QString& name, const QString& path) {
 
 void HTMLTemplate::SaveAs(const QString& path, const QString& text) const {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    // Without a buffer: `commit` would not look at what becomes of the bytes that are left in it.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         raiseFileError(file);
     writeAll(file, text.toUtf8() + "\r\n");
     if (!file.commit())

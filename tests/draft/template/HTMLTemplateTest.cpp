@@ -166,8 +166,9 @@ TEST_F(HTMLTemplateTest, a_full_disk_leaves_the_old_file_and_nothing_beside_it) 
 TEST_F(HTMLTemplateTest, a_disk_without_room_for_one_line_leaves_the_old_file) {
     writeFile(path(u"out.htm"_s), "old");
     const FullDisk disk(1);
-    EXPECT_EQ(errorOf([&] { page.SaveAs(path(u"out.htm"_s), u"short"_s); }).source(),
-              path(u"out.htm"_s));
+    const Error error = errorOf([&] { page.SaveAs(path(u"out.htm"_s), u"short"_s); });
+    EXPECT_EQ(error.source(), path(u"out.htm"_s));
+    EXPECT_EQ(error.description(), u"File too large"_s);
     EXPECT_EQ(contentOf(path(u"out.htm"_s)), QByteArray("old"));
 }
 
