@@ -7,9 +7,10 @@
 #include "support/FullDisk.h"
 #include "support/PrintQt.h"
 
-#include <QElapsedTimer>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+
+#include <ctime>
 
 using namespace quillford;
 using namespace Qt::Literals::StringLiterals;
@@ -68,11 +69,10 @@ protected:
         return texts;
     }
 
-    /// The seven fields with whole sentences, all of one text.
+    /// One field of each treatment: closed with a period, finished, in a block, both of these.
     void fillLongFields(const QString& text) {
-        for (Field* field : {&fields.txtPurpose, &fields.txtMainElement, &fields.txtOperation,
-                             &fields.txtDesConnections, &fields.txtDesAlterative,
-                             &fields.txtObject(0), &fields.txtElementDes(0)})
+        for (Field* field : {&fields.txtPurpose, &fields.txtOperation, &fields.txtObject(0),
+                             &fields.txtElementDes(0)})
             field->setText(text);
     }
 
@@ -87,6 +87,17 @@ protected:
 
 private:
     QTemporaryDir folder_;
+};
+
+/// The processor's time since the object was made: a busy machine does not count.
+class Work {
+public:
+    [[nodiscard]] double seconds() const {
+        return static_cast<double>(std::clock() - start_) / CLOCKS_PER_SEC;
+    }
+
+private:
+    std::clock_t start_ = std::clock();
 };
 
 QString withoutTags(QString html) {
@@ -305,7 +316,7 @@ TEST_F(HtmlComposerTest, the_drawings_open_a_page_with_and_without_figures) {
 
 TEST_F(HtmlComposerTest, a_figure_is_drawn_at_its_size) {
     writeFile(path(u"a picture #1%20.png"_s));
-    fields.txtAttachFig(0).setText(u"  "_s + path(u"a picture #1%20.png"_s) + u" "_s);
+    fields.txtAttachFig(0).setText(path(u"a picture #1%20.png"_s));
     fields.figureState(0) = {u"/nowhere/copy.png"_s, u"626, 810"_s};
     EXPECT_EQ(paragraphs(u"drawing"_s),
               QStringList(u" <img src=\"file:///"_s + path(u"a picture #1%20.png"_s) +
@@ -537,7 +548,7 @@ TEST_F(HtmlComposerTest, a_lone_surrogate_becomes_a_question_mark_in_the_file) {
 // the length would need hours.
 TEST_F(HtmlComposerTest, a_megabyte_of_anything_is_composed_in_time_that_grows_with_its_length) {
     constexpr int Small = 250'000;
-    constexpr qint64 MostMilliseconds = 60'000;
+    constexpr double MostSeconds = 30;
     for (const QString& piece : {u"x"_s,
                                  u". "_s,
                                  u"."_s,
@@ -560,10 +571,9 @@ TEST_F(HtmlComposerTest, a_megabyte_of_anything_is_composed_in_time_that_grows_w
                                  LockedBody}) {
         for (const int length : {Small, 4 * Small}) {
             fillLongFields(piece.repeated(length / piece.size()));
-            QElapsedTimer timer;
-            timer.start();
+            const Work work;
             EXPECT_GT(preview().size(), length / piece.size());
-            EXPECT_LT(timer.elapsed(), MostMilliseconds)
+            EXPECT_LT(work.seconds(), MostSeconds)
                 << length << " characters of " << qPrintable(piece);
         }
     }
@@ -577,10 +587,9 @@ TEST_F(HtmlComposerTest, the_largest_project_with_long_texts_is_composed) {
         if (row.list == FieldListId::None && row.kind != FieldKind::Check)
             for (int i = 0; i < fields.count(row.id); ++i)
                 fields.at(row.id, i).setText(u"word [x] "_s.repeated(Length / 9));
-    QElapsedTimer timer;
-    timer.start();
+    const Work work;
     EXPECT_GT(preview().size(), 200 * Length);
-    EXPECT_LT(timer.elapsed(), 60'000);
+    EXPECT_LT(work.seconds(), 30);
 }
 
 // Failures

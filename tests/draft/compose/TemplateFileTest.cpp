@@ -4,6 +4,7 @@
 #include "support/FakeFolders.h"
 #include "support/FakePrompts.h"
 #include "support/Files.h"
+#include "support/FullDisk.h"
 #include "support/PrintQt.h"
 
 #include <QRegularExpression>
@@ -51,13 +52,6 @@ TEST_F(TemplateFileTest, the_name_is_Temp_with_a_number_below_10000) {
     EXPECT_GT(names.size(), 90);
 }
 
-TEST_F(TemplateFileTest, an_older_file_of_the_same_name_is_replaced_whole) {
-    for (int i = 0; i < 10'000; ++i)
-        writeFile(folders.temporary + u"/Temp%1.htm"_s.arg(i), {});
-    const QString path = writeTemplateFile(u"INDEXHTMLTEMPLATE"_s, folders);
-    EXPECT_EQ(contentOf(path), contentOf(u":/templates/INDEXHTMLTEMPLATE.htm"_s));
-}
-
 TEST_F(TemplateFileTest, the_folders_name_is_taken_as_it_is) {
     for (const QString& name : {u"/100%1 sure"_s, u"/%2"_s, u"/Ren\u00E9e's #1"_s}) {
         const QTemporaryDir parent;
@@ -73,6 +67,15 @@ TEST_F(TemplateFileTest, a_folder_that_is_not_there_is_an_error_that_names_the_f
     EXPECT_TRUE(errorOf([&] { (void)writeTemplateFile(u"HTMLTEMPLATE"_s, folders); })
                     .source()
                     .startsWith(u"/nowhere/at all/Temp"_s));
+}
+
+TEST_F(TemplateFileTest, a_full_disk_is_an_error_that_names_the_file) {
+    for (const rlim_t bytes : {1U, 1000U}) {
+        const FullDisk disk(bytes);
+        const Error error = errorOf([&] { (void)writeTemplateFile(u"HTMLTEMPLATE"_s, folders); });
+        EXPECT_TRUE(error.source().startsWith(folders.temporary + u"/Temp"_s));
+        EXPECT_EQ(error.description(), u"File too large"_s);
+    }
 }
 
 TEST_F(TemplateFileTest, a_template_that_does_not_exist_is_an_error) {
