@@ -1,0 +1,44 @@
+#include "BenchDraft.h"
+
+#include "base/Error.h"
+#include "core/rules/FigureSize.h"
+#include "draft/compose/HtmlComposer.h"
+#include "persistence/project/ProjectReader.h"
+#include "platform/linux/QtPictureReader.h"
+
+namespace quillford {
+
+BenchDraft::BenchDraft(const QString& path) {
+    readProject(path, project_);
+    QtPictureReader pictures;
+    measureFigures(project_.fields, pictures);
+}
+
+void BenchDraft::exportTo(const QString& path) {
+    QString written; // an empty text asks for a file
+    compose(path, written);
+}
+
+QString BenchDraft::preview() {
+    QString html = QStringLiteral("preview");
+    compose({}, html);
+    return html;
+}
+
+void BenchDraft::compose(const QString& path, QString& html) {
+    HtmlComposer composer(project_.fields, folder_, prompts_);
+    if (!composer.ExportToHTML(path, html))
+        throw composer.failure().value_or(Error(0, QStringLiteral("nothing was composed"), path));
+}
+
+QString BenchDraft::OwnFolder::temporaryFolder() {
+    if (!folder_.isValid())
+        throw Error(0, folder_.errorString(), folder_.path());
+    return folder_.path();
+}
+
+void BenchDraft::NoBoxes::showMessage(Icon, const QString& title, const QString& text) {
+    throw Error(0, text, title);
+}
+
+} // namespace quillford

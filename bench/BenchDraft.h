@@ -1,0 +1,47 @@
+#pragma once
+
+#include "core/fields/Project.h"
+#include "platform/Folders.h"
+#include "platform/UserPrompts.h"
+
+#include <QString>
+#include <QTemporaryDir>
+
+namespace quillford {
+
+/// A project that is ready to be composed, with a temporary folder of its own, which goes with it.
+class BenchDraft {
+public:
+    /// Reads the project in the file `path` and measures its figures. Raises `Error` when the file
+    /// cannot be read or there is no room for a folder.
+    explicit BenchDraft(const QString& path);
+
+    /// Composes the Final Draft and writes it to the file. Raises `Error` when either fails.
+    void exportTo(const QString& path);
+
+    /// The Final Draft as the preview shows it. Raises `Error` when the composition fails.
+    [[nodiscard]] QString preview();
+
+private:
+    class OwnFolder final : public Folders {
+    public:
+        QString temporaryFolder() override;
+
+    private:
+        QTemporaryDir folder_;
+    };
+
+    class NoBoxes final : public UserPrompts {
+    public:
+        /// Raises the text as an `Error`: nobody sits there to read it.
+        void showMessage(Icon icon, const QString& title, const QString& text) override;
+    };
+
+    void compose(const QString& path, QString& html);
+
+    Project project_;
+    OwnFolder folder_;
+    NoBoxes prompts_;
+};
+
+} // namespace quillford
