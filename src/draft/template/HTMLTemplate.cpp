@@ -2,8 +2,8 @@
 
 #include "base/Error.h"
 #include "base/Files.h"
+#include "draft/template/BlockSearch.h"
 
-#include <QRegularExpression>
 #include <QSaveFile>
 
 namespace quillford {
@@ -13,9 +13,8 @@ namespace {
 const QString BlockErrorSource = QStringLiteral("Template Class");
 const QString ItemErrorSource = QStringLiteral("HTML Template Class");
 
-/// The runtime's numbers for a key that a table holds already and for a broken expression.
+/// The runtime's number for a key that a table holds already.
 constexpr int DuplicateKey = 457;
-constexpr int BrokenExpression = 5017;
 
 /// The text with a carriage return and line feed behind each of its lines.
 QString withLineEnds(QStringView text) {
@@ -31,15 +30,6 @@ QString withLineEnds(QStringView text) {
         result += u"\r\n";
     }
     return result;
-}
-
-QRegularExpression blockPattern(const QString& block) {
-    const QRegularExpression pattern(
-        QStringLiteral("&lt;!--BEGIN %1--&gt;([\\s\\S.]*)&lt;!--END %1--&gt;").arg(block),
-        QRegularExpression::CaseInsensitiveOption);
-    if (!pattern.isValid())
-        throw Error(BrokenExpression, pattern.errorString(), BlockErrorSource);
-    return pattern;
 }
 
 } // namespace
@@ -75,12 +65,11 @@ void HTMLTemplate::UnSetItem(const QString& name) {
 void HTMLTemplate::SetBlock(const QString& parent, const QString& block,
                             const QString& placeholder) {
     const QString source = blockNamed(parent).text();
-    const QRegularExpression pattern = blockPattern(block);
     const QString mark = u'[' + (placeholder.isEmpty() ? block : placeholder) + u']';
     QString rest = source;
-    for (const QRegularExpressionMatch& match : pattern.globalMatch(source)) {
-        addBlock(block, match.captured(1));
-        rest.replace(match.captured(0), mark);
+    for (const FoundBlock& found : findBlocks(source, block, BlockErrorSource)) {
+        addBlock(block, found.body);
+        rest.replace(found.whole, mark);
     }
     blockNamed(parent).setText(rest);
 }
