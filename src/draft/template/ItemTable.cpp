@@ -4,27 +4,18 @@ namespace quillford {
 
 namespace {
 
-bool hasBracket(QStringView text) {
-    return text.contains(u'[') || text.contains(u']');
+bool hasBracket(const QString& name) {
+    return name.contains(u'[') || name.contains(u']');
 }
 
 } // namespace
 
 void ItemTable::set(const QString& name, const QString& value) {
-    Item& item = itemNamed(name);
-    itemsWithBracket_ -= item.valueHasBracket ? 1 : 0;
-    item.value = value;
-    item.valueHasBracket = hasBracket(value);
-    itemsWithBracket_ += item.valueHasBracket ? 1 : 0;
+    itemNamed(name).value = value;
 }
 
 void ItemTable::append(const QString& name, const QString& value) {
-    Item& item = itemNamed(name);
-    item.value += value;
-    if (!item.valueHasBracket && hasBracket(value)) {
-        item.valueHasBracket = true;
-        ++itemsWithBracket_;
-    }
+    itemNamed(name).value += value;
 }
 
 void ItemTable::remove(const QString& name) {
@@ -32,8 +23,7 @@ void ItemTable::remove(const QString& name) {
     if (place == places_.constEnd())
         return;
     const std::size_t removed = *place;
-    itemsWithBracket_ -= items_[removed].valueHasBracket ? 1 : 0;
-    itemsWithBracket_ -= hasBracket(name) ? 1 : 0;
+    namesWithBracket_ -= hasBracket(name) ? 1 : 0;
     places_.remove(name); // before the item, which may own this very name
     items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(removed));
     for (std::size_t& other : places_)
@@ -50,8 +40,8 @@ ItemTable::Item& ItemTable::itemNamed(const QString& name) {
     if (place != places_.constEnd())
         return items_[*place];
     places_.insert(name, items_.size());
-    itemsWithBracket_ += hasBracket(name) ? 1 : 0;
-    return items_.emplace_back(Item{name, u'[' + name + u']', {}, false});
+    namesWithBracket_ += hasBracket(name) ? 1 : 0;
+    return items_.emplace_back(Item{name, u'[' + name + u']', {}});
 }
 
 } // namespace quillford

@@ -14,7 +14,6 @@ public:
         QString name;
         QString mark; ///< the name in square brackets
         QString value;
-        bool valueHasBracket = false;
     };
 
     /// Adds the item, or gives an existing one a new value.
@@ -31,16 +30,15 @@ public:
     /// In the order of the table.
     [[nodiscard]] const std::vector<Item>& items() const noexcept { return items_; }
 
-    /// True while no name and no value holds a square bracket: then what one item puts into a text
-    /// can never be, or become part of, the mark of another.
-    [[nodiscard]] bool isFreeOfBrackets() const noexcept { return itemsWithBracket_ == 0; }
+    /// True while some name holds a square bracket.
+    [[nodiscard]] bool hasNameWithBracket() const noexcept { return namesWithBracket_ > 0; }
 
 private:
     Item& itemNamed(const QString& name);
 
     std::vector<Item> items_;
     QHash<QString, std::size_t> places_;
-    qsizetype itemsWithBracket_ = 0;
+    qsizetype namesWithBracket_ = 0;
 };
 
 } // namespace quillford

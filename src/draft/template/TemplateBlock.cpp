@@ -34,6 +34,20 @@ std::optional<QString> replaced(const QString& text, QStringView mark, QStringVi
     return result += source.sliced(from);
 }
 
+std::optional<QString> joined(const std::vector<QStringView>& pieces, qsizetype mostCharacters) {
+    qsizetype length = 0;
+    for (const QStringView piece : pieces) {
+        length += piece.size();
+        if (length > mostCharacters)
+            return std::nullopt;
+    }
+    QString result;
+    result.reserve(length);
+    for (const QStringView piece : pieces)
+        result += piece;
+    return result;
+}
+
 } // namespace
 
 TemplateBlock::TemplateBlock(QString text) : text_(std::move(text)) {}
@@ -47,8 +61,8 @@ std::optional<QString> TemplateBlock::rendered(const ItemTable& items,
                                                qsizetype mostCharacters) const {
     if (!divided_)
         divide();
-    if (marksAreFlat_ && items.isFreeOfBrackets())
-        return renderedInOnePass(items, mostCharacters);
+    if (const auto pieces = filledPieces(items))
+        return joined(*pieces, mostCharacters);
     return renderedItemByItem(items, mostCharacters);
 }
 
@@ -72,23 +86,21 @@ void TemplateBlock::divide() const {
     pieces_.push_back({text.sliced(from)});
 }
 
-std::optional<QString> TemplateBlock::renderedInOnePass(const ItemTable& items,
-                                                        qsizetype mostCharacters) const {
-    std::vector<QStringView> texts;
-    texts.reserve(pieces_.size());
-    qsizetype length = 0;
+/// The pieces of the text with the values in the place of their marks. Nothing when one of them
+/// could open a mark itself: what only closes one finds none open, since no mark stands within
+/// another.
+std::optional<std::vector<QStringView>> TemplateBlock::filledPieces(const ItemTable& items) const {
+    if (!marksAreFlat_ || items.hasNameWithBracket())
+        return std::nullopt;
+    std::vector<QStringView> filled;
+    filled.reserve(pieces_.size());
     for (const Piece& piece : pieces_) {
         const ItemTable::Item* item = piece.isMark ? items.find(piece.name) : nullptr;
-        texts.push_back(item ? QStringView(item->value) : piece.text);
-        length += texts.back().size();
-        if (length > mostCharacters)
+        if (item && item->value.contains(u'['))
             return std::nullopt;
+        filled.push_back(item ? QStringView(item->value) : piece.text);
     }
-    QString result;
-    result.reserve(length);
-    for (const QStringView text : texts)
-        result += text;
-    return result;
+    return filled;
 }
 
 std::optional<QString> TemplateBlock::renderedItemByItem(const ItemTable& items,

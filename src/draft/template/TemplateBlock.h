@@ -12,8 +12,9 @@ namespace quillford {
 /// One block of a template and its rendering.
 ///
 /// What rendering means is told item by item: in the order of the table, every mark of the item is
-/// replaced by its value. While no value holds a bracket and no mark stands within another, that is
-/// the same as one pass over the text, which is how nearly every block is rendered.
+/// replaced by its value. While no value that is put in holds a bracket and no mark stands within
+/// another, that is the same as one pass over the text, which is how nearly every block is
+/// rendered.
 class TemplateBlock {
 public:
     TemplateBlock() = default;
@@ -37,8 +38,8 @@ private:
     };
 
     void divide() const;
-    [[nodiscard]] std::optional<QString> renderedInOnePass(const ItemTable& items,
-                                                           qsizetype mostCharacters) const;
+    [[nodiscard]] std::optional<std::vector<QStringView>>
+    filledPieces(const ItemTable& items) const;
     [[nodiscard]] std::optional<QString> renderedItemByItem(const ItemTable& items,
                                                             qsizetype mostCharacters) const;
 

@@ -31,7 +31,7 @@ TEST(ItemTable, an_empty_table_knows_no_item) {
     const ItemTable table;
     EXPECT_EQ(table.find(u"a"_s), nullptr);
     EXPECT_TRUE(table.items().empty());
-    EXPECT_TRUE(table.isFreeOfBrackets());
+    EXPECT_FALSE(table.hasNameWithBracket());
 }
 
 TEST(ItemTable, an_item_has_its_name_in_brackets_as_mark) {
@@ -100,35 +100,11 @@ TEST(ItemTable, an_item_can_be_removed_by_the_name_that_it_owns) {
     EXPECT_EQ(table.find(u"a"_s), nullptr);
 }
 
-TEST(ItemTable, either_bracket_in_a_value_is_seen_and_its_going_too) {
-    for (const QString& bracket : {u"["_s, u"]"_s, u"see [3-PURPOSE]"_s}) {
-        ItemTable table = tableOf({u"a"_s, u"b"_s});
-        table.set(u"a"_s, bracket);
-        EXPECT_FALSE(table.isFreeOfBrackets());
-        table.set(u"a"_s, bracket + bracket);
-        table.set(u"b"_s, bracket);
-        table.set(u"a"_s, u"plain"_s);
-        EXPECT_FALSE(table.isFreeOfBrackets());
-        table.remove(u"b"_s);
-        EXPECT_TRUE(table.isFreeOfBrackets());
-    }
-}
-
-TEST(ItemTable, a_bracket_that_was_appended_is_seen_until_the_whole_value_goes) {
-    ItemTable table = tableOf({u"a"_s});
-    table.append(u"a"_s, u"["_s);
-    table.append(u"a"_s, u"plain"_s);
-    table.append(u"a"_s, u"]"_s);
-    EXPECT_FALSE(table.isFreeOfBrackets());
-    table.set(u"a"_s, u"plain"_s);
-    EXPECT_TRUE(table.isFreeOfBrackets());
-}
-
 TEST(ItemTable, a_bracket_in_a_name_is_seen_until_the_item_goes) {
     ItemTable table = tableOf({u"a"_s});
     table.set(u"a[0]"_s, u"["_s);
     table.set(u"a[0]"_s, u"plain"_s);
-    EXPECT_FALSE(table.isFreeOfBrackets());
+    EXPECT_TRUE(table.hasNameWithBracket());
     table.remove(u"a[0]"_s);
-    EXPECT_TRUE(table.isFreeOfBrackets());
+    EXPECT_FALSE(table.hasNameWithBracket());
 }

@@ -4,6 +4,8 @@
 #include "support/PrintQt.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 #include <random>
 #include <utility>
 #include <vector>
@@ -143,6 +145,12 @@ TEST(TemplateBlock, surrogates_are_letters_like_others) {
     EXPECT_EQ(rendered(pair + u"[a]"_s + lone, {{u"a"_s, lone + pair}}), pair + lone + pair + lone);
 }
 
+bool hasBracket(const ItemTable& items) {
+    return std::any_of(items.items().begin(), items.items().end(), [](const ItemTable::Item& item) {
+        return (item.name + item.value).contains(u'[') || item.name.contains(u']');
+    });
+}
+
 TEST(TemplateBlock, in_one_pass_or_item_by_item_the_text_is_the_same) {
     constexpr int Cases = 40'000;
     RandomTexts random(1);
@@ -155,7 +163,7 @@ TEST(TemplateBlock, in_one_pass_or_item_by_item_the_text_is_the_same) {
         ASSERT_EQ(TemplateBlock(text).rendered(items, NoLimit), expected)
             << "of " << qPrintable(text);
         if (expected != text)
-            ++(items.isFreeOfBrackets() ? changedInOnePass : changedItemByItem);
+            ++(hasBracket(items) ? changedItemByItem : changedInOnePass);
     }
     EXPECT_GT(changedInOnePass, Cases / 20);
     EXPECT_GT(changedItemByItem, Cases / 20);
