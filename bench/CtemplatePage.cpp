@@ -1,9 +1,8 @@
 #include "CtemplatePage.h"
 
+#include "WriteFile.h"
 #include "base/Error.h"
 #include "base/Files.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <ctemplate/template.h>
@@ -13,12 +12,6 @@ namespace quillford {
 namespace {
 
 using Operation = TemplateCall::Operation;
-
-void writeFile(const QString& path, const QString& text) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0 || !file.flush())
-        raiseFileError(file);
-}
 
 QString variableMark(const QString& variable) {
     return QStringLiteral("{{") + variable + QStringLiteral("}}");
@@ -42,7 +35,7 @@ CtemplatePage::CtemplatePage(const QList<TemplateCall>& calls, const QString& te
     translateItems(calls);
     translateBlocks(calls);
     fill(calls);
-    writeFile(translatedFile, text_);
+    writeFile(translatedFile, text_.toUtf8());
 }
 
 std::string CtemplatePage::rendered() const {

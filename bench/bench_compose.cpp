@@ -2,11 +2,11 @@
 #include "BenchProjects.h"
 #include "CtemplatePage.h"
 #include "PairedTimes.h"
+#include "WriteFile.h"
 #include "base/Error.h"
 #include "base/Files.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -50,17 +50,9 @@ void requireEqual(const QString& one, const QString& other, const char* what) {
                 QString::fromUtf8(what));
 }
 
-/// The engine writes the text into a file that is replaced when it is whole and on the disk; the
-/// copy only writes.
-void copyBytes(const QByteArray& bytes, const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) < 0 || !file.flush())
-        raiseFileError(file);
-}
-
 void benchEngine(const BenchProject& project, BenchDraft& draft, const QString& folder) {
     const QString file = folder + QStringLiteral("/HTMLTEMPLATE.htm");
-    copyBytes(contentOfFile(QStringLiteral(":/templates/HTMLTEMPLATE.htm")), file);
+    writeFile(file, contentOfFile(QStringLiteral(":/templates/HTMLTEMPLATE.htm")));
     const QList<TemplateCall> calls = recordedCalls(project, folder);
     const CtemplatePage peer(calls, file, folder + QStringLiteral("/ctemplate.tpl"));
 
@@ -73,13 +65,15 @@ void benchEngine(const BenchProject& project, BenchDraft& draft, const QString& 
     printRow(project, "HTMLTemplate / ctemplate", times, MostTimesCtemplate);
 }
 
+/// The draft is written beside its file, synced to the disk and put in its place; the copy is only
+/// written.
 void benchComposition(const BenchProject& project, BenchDraft& draft, const QString& folder) {
     const QString output = folder + QStringLiteral("/draft.htm");
     const QString copy = folder + QStringLiteral("/copy.htm");
     draft.exportTo(output);
     const QByteArray bytes = contentOfFile(output);
     const PairedTimes times =
-        measuredInTurns([&] { draft.exportTo(output); }, [&] { copyBytes(bytes, copy); });
+        measuredInTurns([&] { draft.exportTo(output); }, [&] { writeFile(copy, bytes); });
     printRow(project, "composition / copy of bytes", times, {});
 }
 

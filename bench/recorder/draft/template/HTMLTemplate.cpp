@@ -1,9 +1,8 @@
 #include "draft/template/HTMLTemplate.h"
 
+#include "WriteFile.h"
 #include "base/Error.h"
-#include "base/Files.h"
 
-#include <QFile>
 #include <QJsonDocument>
 
 namespace quillford {
@@ -14,10 +13,7 @@ bool HTMLTemplate::Load(const QString& name, const QString&) {
 }
 
 void HTMLTemplate::SaveAs(const QString& path, const QString&) const {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(calls_).toJson()) < 0 ||
-        !file.flush())
-        raiseFileError(file);
+    writeFile(path, QJsonDocument(calls_).toJson());
 }
 
 void HTMLTemplate::SetItem(const QString& name, const QString& value, bool append) {
