@@ -21,6 +21,12 @@ private:
     public:
         void setTabLook(int, TabLook) override {}
 
+        void setTabPointer(int, TabPointer) override {}
+
+        void showBar(ButtonBar) override {}
+
+        void enableStepButton(StepButton, bool) override {}
+
         void enableDraftCommands(bool) override {}
 
         void setDefaultPointer() override {}

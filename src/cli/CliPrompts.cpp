@@ -6,6 +6,11 @@ void CliPrompts::showMessage(Icon, const QString& title, const QString& text) {
     writeErrorLine(errors_, title, text);
 }
 
+bool CliPrompts::askYesNo(Icon icon, const QString& title, const QString& text) {
+    showMessage(icon, title, text);
+    return false;
+}
+
 void writeErrorLine(QIODevice& errors, const QString& name, const QString& text) {
     QString line = QStringLiteral("quillford-cli: ");
     if (!name.isEmpty())

@@ -28,21 +28,13 @@ const QStringList& outputOptions() {
     return options;
 }
 
-QString sectionList(const QList<int>& sections) {
-    QStringList numbers;
-    for (const int section : sections)
-        numbers.append(QString::number(section));
-    return (numbers.size() > 1 ? QStringLiteral("Sections ") : QStringLiteral("Section ")) +
-           numbers.join(QStringLiteral(", "));
-}
-
 void requireComplete(const Project& project, UserPrompts& prompts) {
     const CheckedSections sections(project, prompts);
     const QList<int> incomplete = sections.rules().incompleteSections();
     if (!incomplete.isEmpty())
         throw Error(SectionNotComplete,
                     QStringLiteral("data is missing from %1; --incomplete exports all the same")
-                        .arg(sectionList(incomplete)));
+                        .arg(namedSections(incomplete)));
 }
 
 /// Where a file of this name lies, once it is there.

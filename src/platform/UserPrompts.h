@@ -2,19 +2,42 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace quillford {
 
 /// Everything that the program asks or tells its user in a box. Tests answer from a script and keep
-/// every title and text.
+/// every title and text. A call returns when its box is closed, and window events are handled
+/// meanwhile. Texts are plain text, never markup.
 class UserPrompts {
 public:
-    enum class Icon { None, Information, Exclamation, Critical };
+    enum class Icon { None, Information, Question, Exclamation, Critical };
+
+    /// Is called each time the user changes the box "Do not show this again", at once and while
+    /// the window still stands; true when the box is now ticked.
+    using NotAgainChanged = std::function<void(bool ticked)>;
+
+    enum class ExportChoice { Cancel, Word, Html };
 
     virtual ~UserPrompts() = default;
 
-    /// Shows a plain message box with one button and returns when it is closed. Texts are plain
-    /// text, never markup.
+    /// Shows a plain message box with one button.
     virtual void showMessage(Icon icon, const QString& title, const QString& text) = 0;
+
+    /// Asks in a box with the buttons Yes and No, and answers true for Yes. A box that is closed
+    /// otherwise says No.
+    [[nodiscard]] virtual bool askYesNo(Icon icon, const QString& title, const QString& text) = 0;
+
+    /// The message window as "Section Not Complete": true for Yes. A window that is closed
+    /// otherwise says No.
+    [[nodiscard]] virtual bool showMsgWindow(const NotAgainChanged& changed) = 0;
+
+    /// The message window as "Drawings - Important Information!".
+    virtual void showTab4MsgWindow(const NotAgainChanged& changed) = 0;
+
+    /// The message window as "Export to File". Where there is no word processor, Word is shown but
+    /// cannot be chosen.
+    [[nodiscard]] virtual ExportChoice showExportToFileMsgWindow(bool wordInstalled) = 0;
 };
 
 } // namespace quillford

@@ -3,14 +3,17 @@
 #include "platform/UserPrompts.h"
 #include "support/PrintQt.h"
 
+#include <deque>
+#include <gtest/gtest.h>
 #include <ostream>
+#include <utility>
 #include <vector>
 
 namespace quillford {
 
 /// A user who reads every box and closes it. All boxes are kept in the order in which they were
-/// shown; a kind of question that the program learns to ask takes its answers from a script beside
-/// them and fails the test when the script has run out.
+/// shown; a kind of question takes its answers from a script beside them and fails the test when
+/// the script has run out. Of the message window the arrangement is kept in place of its texts.
 class FakePrompts final : public UserPrompts {
 public:
     struct Box {
@@ -28,10 +31,58 @@ public:
         }
     };
 
+    /// What the user does in a message window: changes of its box, then the button.
+    struct MessageWindow {
+        bool yes = true;
+        std::vector<bool> ticks;
+    };
+
     std::vector<Box> boxes;
+    std::deque<bool> yesNoAnswers;
+    std::deque<MessageWindow> msgWindows;
+    std::deque<MessageWindow> tab4MsgWindows;
+    std::deque<ExportChoice> exportChoices;
 
     void showMessage(Icon icon, const QString& title, const QString& text) override {
         boxes.push_back({icon, title, text});
+    }
+
+    bool askYesNo(Icon icon, const QString& title, const QString& text) override {
+        boxes.push_back({icon, title, text});
+        return next(yesNoAnswers);
+    }
+
+    bool showMsgWindow(const NotAgainChanged& changed) override {
+        boxes.push_back({Icon::None, QStringLiteral("showMsgWindow"), {}});
+        return act(next(msgWindows), changed);
+    }
+
+    void showTab4MsgWindow(const NotAgainChanged& changed) override {
+        boxes.push_back({Icon::None, QStringLiteral("showTab4MsgWindow"), {}});
+        act(next(tab4MsgWindows), changed);
+    }
+
+    ExportChoice showExportToFileMsgWindow(bool) override {
+        boxes.push_back({Icon::None, QStringLiteral("showExportToFileMsgWindow"), {}});
+        return next(exportChoices);
+    }
+
+private:
+    template <typename Answer>
+    static Answer next(std::deque<Answer>& script) {
+        if (script.empty()) {
+            ADD_FAILURE() << "a question without an answer in the script";
+            return {};
+        }
+        Answer answer = std::move(script.front());
+        script.pop_front();
+        return answer;
+    }
+
+    static bool act(const MessageWindow& window, const NotAgainChanged& changed) {
+        for (const bool ticked : window.ticks)
+            changed(ticked);
+        return window.yes;
     }
 };
 

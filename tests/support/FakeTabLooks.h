@@ -22,6 +22,20 @@ public:
         take("tab " + std::to_string(tab) + " looks " + Names[static_cast<int>(look)]);
     }
 
+    void setTabPointer(int tab, TabPointer pointer) override {
+        take("tab " + std::to_string(tab) +
+             (pointer == TabPointer::Hand ? " has the hand" : " has the default pointer"));
+    }
+
+    void showBar(ButtonBar bar) override {
+        static constexpr const char* Names[] = {"step bar", "export bar", "no bar"};
+        take(Names[static_cast<int>(bar)]);
+    }
+
+    void enableStepButton(StepButton button, bool on) override {
+        take((button == StepButton::Back ? "Back " : "Next ") + std::string(on ? "on" : "off"));
+    }
+
     void enableDraftCommands(bool on) override {
         take(on ? "draft commands on" : "draft commands off");
     }

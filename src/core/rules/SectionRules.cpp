@@ -29,6 +29,14 @@ bool hasSection(int tab) {
 
 } // namespace
 
+QString namedSections(const QList<int>& numbers) {
+    QStringList texts;
+    for (const int number : numbers)
+        texts.append(QString::number(number));
+    return (texts.size() > 1 ? QStringLiteral("Sections ") : QStringLiteral("Section ")) +
+           texts.join(QStringLiteral(", "));
+}
+
 SectionRules::SectionRules(const ProjectFields& fields, const ProjectState& state, TabLooks& looks,
                            UserPrompts& prompts)
     : fields_(fields), state_(state), looks_(looks), prompts_(prompts) {}
@@ -79,6 +87,11 @@ void SectionRules::refreshSection(int tab) {
 void SectionRules::setSectionStatus(int tab, const QString& status) {
     looks_.setTabLook(tab, status == Ok ? TabLook::Complete : TabLook::Incomplete);
     tags_.at(static_cast<std::size_t>(tab)) = status;
+}
+
+void SectionRules::forgetVerdicts() {
+    for (int tab = 0; tab < TabCount; ++tab)
+        setSectionStatus(tab, QString());
 }
 
 bool SectionRules::sectionIsFilled(int tab) const {

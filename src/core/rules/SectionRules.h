@@ -12,6 +12,9 @@
 
 namespace quillford {
 
+/// How sections are named in a sentence: "Section 3", "Sections 3, 5".
+[[nodiscard]] QString namedSections(const QList<int>& numbers);
+
 /// Decides which sections are complete and keeps the verdict in the tag of each tab: empty until
 /// the section is first checked, then "OK" or "WARNING". The tag of tab 8, the Final Draft, is the
 /// verdict on all eight sections. Nothing but the tags is remembered.
@@ -45,6 +48,9 @@ public:
 
     /// Gives the tab the picture of the status, not selected, and then keeps the status as its tag.
     void setSectionStatus(int tab, const QString& status);
+
+    /// Empties all tags and gives every tab the incomplete look, not selected: a new project's.
+    void forgetVerdicts();
 
     /// True when the section of `tab` (0 to 7) has all its required fields.
     [[nodiscard]] bool sectionIsFilled(int tab) const;
