@@ -86,6 +86,9 @@ TEST_F(TabEntryTest, names_are_copied_as_far_as_both_sections_have_panels) {
     entry.copyElementNames();
     EXPECT_EQ(project.fields.txtElementMain.count(), 3);
     EXPECT_EQ(project.fields.txtElementMain(2).text(), u"pin");
+    project.fields.setPanelCount(FieldGroup::MainElements, 2);
+    entry.copyElementNames();
+    EXPECT_EQ(project.fields.txtElementMain(2).text(), u"pin");
 }
 
 TEST_F(TabEntryTest, section_7_writes_its_captions_and_goes_to_its_top) {
