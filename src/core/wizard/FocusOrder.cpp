@@ -75,13 +75,12 @@ QStringList focusOrderOf(int tab, const ProjectFields& fields) {
         const auto end = std::find_if(step, std::end(Steps), [&](const FocusStep& other) {
             return other.tab != step->tab || other.group != step->group;
         });
-        if (step->tab == tab && step->group == FieldGroup::Single)
-            for (auto single = step; single != end; ++single)
-                controls.append(single->control.toString());
-        else if (step->tab == tab)
-            for (int i = 0; i < fields.panelCount(step->group); ++i)
-                for (auto member = step; member != end; ++member)
-                    controls.append(controlName(member->control, i));
+        const bool single = step->group == FieldGroup::Single;
+        const int panels = single ? 1 : fields.panelCount(step->group);
+        for (int i = 0; step->tab == tab && i < panels; ++i)
+            for (auto member = step; member != end; ++member)
+                controls.append(single ? member->control.toString()
+                                       : controlName(member->control, i));
         step = end;
     }
     return controls;

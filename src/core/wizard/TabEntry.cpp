@@ -17,7 +17,8 @@ void TabEntry::enter(int tab) {
         &TabEntry::enterFiling,
     };
     Q_ASSERT(tab >= 0 && tab < SectionRules::TabCount);
-    (this->*WorkOf[tab])();
+    const Work work = WorkOf[tab];
+    (this->*work)();
     screen_.pages.page(tab).entered();
     focusOrder_.enterTab(tab, fields_);
 }
