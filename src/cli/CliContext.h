@@ -3,16 +3,20 @@
 #include "platform/Folders.h"
 #include "platform/PictureReader.h"
 
+#include <QByteArray>
 #include <QIODevice>
 
 namespace quillford {
 
 /// What a command needs of the world. Nothing is owned.
 struct CliContext {
-    QIODevice& output; ///< standard output, open for writing; texts go out in UTF-8
+    QIODevice& output; ///< standard output, open for writing
     QIODevice& errors; ///< standard error
     Folders& folders;
     PictureReader& pictures;
+
+    /// Writes a text in UTF-8 to standard output. Raises `Error` when not all of it is taken.
+    void print(const QByteArray& text);
 };
 
 } // namespace quillford

@@ -41,11 +41,11 @@ int CliProgram::run(const QStringList& arguments) {
 ExitStatus CliProgram::dispatch(const QStringList& arguments) {
     const QString first = arguments.value(0);
     if (first == u"--help" || first == u"-h") {
-        context_.output.write(helpText().toUtf8());
+        context_.print(helpText().toUtf8());
         return ExitStatus::Done;
     }
     if (first == u"--version") {
-        context_.output.write("quillford-cli 3.1\n");
+        context_.print("quillford-cli 3.1\n");
         return ExitStatus::Done;
     }
     for (const auto& command : commands_)

@@ -9,7 +9,7 @@ void ShowCommand::addOptions(QCommandLineParser&) const {}
 void ShowCommand::checkOptions(const QCommandLineParser&, const QString&) const {}
 
 ExitStatus ShowCommand::execute(const QCommandLineParser&, Project& project, CliContext& context) {
-    context.output.write(writeProjectJson(project));
+    context.print(writeProjectJson(project));
     return ExitStatus::Done;
 }
 

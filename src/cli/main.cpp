@@ -21,7 +21,8 @@ int main(int argc, char** argv) {
     quillford::QtPictureReader pictures;
     quillford::CliContext context{output, errors, folders, pictures};
     const int status = quillford::CliProgram(context).run(QCoreApplication::arguments().sliced(1));
-    if (output.flush())
+    const bool isTold = status == static_cast<int>(quillford::ExitStatus::Failed);
+    if (isTold || output.flush())
         return status;
     quillford::writeErrorLine(errors, QStringLiteral("standard output"), output.errorString());
     return static_cast<int>(quillford::ExitStatus::Failed);
