@@ -19,6 +19,10 @@ target_compile_options(quillford_settings INTERFACE
 target_compile_definitions(quillford_settings INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
   QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS QT_STRICT_ITERATORS)
+if(QUILLFORD_TESTS)
+  # The toolkit drops its assertions, and ours with them, from every build with optimisation.
+  target_compile_definitions(quillford_settings INTERFACE QT_FORCE_ASSERTS)
+endif()
 if(QUILLFORD_WERROR)
   target_compile_options(quillford_settings INTERFACE -Werror)
 endif()
