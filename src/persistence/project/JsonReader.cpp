@@ -55,8 +55,9 @@ bool readVerifyPassed(const QJsonObject& object) {
 
 /// True for a path that starts at a root, of this system or of the one the project came from.
 bool isAbsolutePath(QStringView path) {
-    const bool drive = path.size() > 1 && path[0].isLetter() && path[1] == u':';
-    return drive || path.startsWith(u'/') || path.startsWith(u'\\');
+    const QChar drive = path.size() > 1 && path[1] == u':' ? path[0].toUpper() : QChar();
+    const QStringView rest = drive >= u'A' && drive <= u'Z' ? path.sliced(2) : path;
+    return rest.startsWith(u'/') || rest.startsWith(u'\\');
 }
 
 class ProjectFromJson {
@@ -127,7 +128,8 @@ private:
     QString absolutePath(const QString& path) const {
         if (isBlank(path) || isAbsolutePath(trimBlanks(path)))
             return path;
-        return QDir::cleanPath(QDir(folder_).absoluteFilePath(trimBlanks(path).toString()));
+        // The toolkit takes a name like ":/x" as one of its own and would not put the folder first.
+        return QDir::cleanPath(folder_ + u'/' + path);
     }
 
     const QJsonObject& object_;
