@@ -103,7 +103,7 @@ ExitStatus CheckCommand::execute(const QCommandLineParser& parser, Project& proj
                                  CliContext& context) {
     CliPrompts prompts(context.errors);
     const Findings findings = findingsIn(project, prompts);
-    context.output.write(parser.isSet(JsonOption) ? jsonOf(findings) : linesOf(findings));
+    context.print(parser.isSet(JsonOption) ? jsonOf(findings) : linesOf(findings));
     const bool isClean = findings.complete && findings.verification.verifyErrorCount == 0;
     return isClean ? ExitStatus::Done : ExitStatus::Found;
 }

@@ -14,11 +14,6 @@ namespace {
 
 const QString SeeHelp = QStringLiteral("quillford-cli --help lists the commands");
 
-QString indented(QString text) {
-    return QStringLiteral("      ") +
-           text.replace(QStringLiteral("\n"), QStringLiteral("\n      "));
-}
-
 } // namespace
 
 CliProgram::CliProgram(CliContext& context) : context_(context) {
@@ -28,12 +23,15 @@ CliProgram::CliProgram(CliContext& context) : context_(context) {
 }
 
 int CliProgram::run(const QStringList& arguments) {
+    const QString first = arguments.value(0);
+    const QString name = first.isEmpty() ? QStringLiteral("command line") : first;
     try {
         return static_cast<int>(dispatch(arguments));
     } catch (const Error& error) {
-        writeErrorLine(context_.errors, error.source(), error.description());
+        writeErrorLine(context_.errors, error.source().isEmpty() ? name : error.source(),
+                       error.description());
     } catch (const std::exception& error) {
-        writeErrorLine(context_.errors, {}, QString::fromUtf8(error.what()));
+        writeErrorLine(context_.errors, name, QString::fromUtf8(error.what()));
     }
     return static_cast<int>(ExitStatus::Failed);
 }
@@ -52,19 +50,22 @@ ExitStatus CliProgram::dispatch(const QStringList& arguments) {
         if (command->name() == first)
             return command->run(arguments.sliced(1), context_);
     if (first.isEmpty())
-        throw Error(0, QStringLiteral("no command; %1").arg(SeeHelp));
-    throw Error(0, QStringLiteral("is no command; %1").arg(SeeHelp), first);
+        throw Error(0, QStringLiteral("expects a command; %1").arg(SeeHelp));
+    throw Error(0, QStringLiteral("is no command; %1").arg(SeeHelp));
 }
 
 QString CliProgram::helpText() const {
     QString help = QStringLiteral("quillford-cli composes provisional patent applications.\n\n"
                                   "A PROJECT is a JSON file with the project's fields.\n\n");
     for (const auto& command : commands_)
-        help += QStringLiteral("  quillford-cli %1 %2\n%3\n")
-                    .arg(command->name(), command->usage(), indented(command->description()));
-    return help + QStringLiteral("  quillford-cli --help | --version\n\n"
+        help += command->help();
+    return help + QStringLiteral("  quillford-cli --help | COMMAND --help | --version
+
+"
                                  "Exit status: 0 done; 1 check found something; 2 a usage error or "
-                                 "a failure,\ntold in one line on standard error.\n");
+                                 "a failure,
+told in one line on standard error.
+");
 }
 
 } // namespace quillford

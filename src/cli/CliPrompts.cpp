@@ -1,6 +1,19 @@
 #include "cli/CliPrompts.h"
 
+#include <algorithm>
+
 namespace quillford {
+
+namespace {
+
+/// A control character could end the line, or write over it on a terminal.
+bool breaksLine(QChar character) {
+    return character.category() == QChar::Other_Control ||
+           character.category() == QChar::Separator_Line ||
+           character.category() == QChar::Separator_Paragraph;
+}
+
+} // namespace
 
 void CliPrompts::showMessage(Icon, const QString& title, const QString& text) {
     writeErrorLine(errors_, title, text);
@@ -17,7 +30,7 @@ void writeErrorLine(QIODevice& errors, const QString& name, const QString& text)
         line += name + QStringLiteral(": ");
     line += text;
     line.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
-    line.replace(u'\r', u' ').replace(u'\n', u' ');
+    std::replace_if(line.begin(), line.end(), breaksLine, QChar(u' '));
     errors.write(line.toUtf8() + '\n');
 }
 

@@ -29,7 +29,8 @@ private:
     QIODevice& errors_;
 };
 
-/// Writes one line "quillford-cli: name: text"; line ends within the texts become blanks.
+/// Writes one line "quillford-cli: name: text"; line ends and other control
+/// characters within the texts become blanks.
 void writeErrorLine(QIODevice& errors, const QString& name, const QString& text);
 
 } // namespace quillford

@@ -8,6 +8,8 @@ namespace {
 
 constexpr int UsageError = 5; // the runtime's number for an invalid argument
 
+const QString HelpOption = QStringLiteral("help");
+
 /// Runs a step; a failure that names nothing is about `thing`.
 template <typename Step>
 auto about(const QString& thing, Step step) {
@@ -22,14 +24,25 @@ auto about(const QString& thing, Step step) {
 
 } // namespace
 
+QString Command::help() const {
+    const QString indent = QStringLiteral("\n      ");
+    return QStringLiteral("  quillford-cli %1 %2").arg(name(), usage()) + indent +
+           description().replace(u'\n', indent) + u'\n';
+}
+
 ExitStatus Command::run(const QStringList& arguments, CliContext& context) {
     QCommandLineParser parser;
     addOptions(parser);
+    parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), HelpOption}));
     if (!parser.parse(QStringList(name()) + arguments))
         refuse(name(), parser.errorText());
-    if (parser.positionalArguments().size() != 1)
+    if (parser.isSet(HelpOption)) {
+        context.print(help().toUtf8());
+        return ExitStatus::Done;
+    }
+    const QString path = parser.positionalArguments().value(0);
+    if (path.isEmpty() || parser.positionalArguments().size() > 1)
         refuse(name(), QStringLiteral("expects one project: %1 %2").arg(name(), usage()));
-    const QString path = parser.positionalArguments().constFirst();
     checkOptions(parser, path);
     return about(path, [&] {
         Project project;

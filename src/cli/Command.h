@@ -30,7 +30,11 @@ public:
     [[nodiscard]] virtual QString usage() const = 0;
     [[nodiscard]] virtual QString description() const = 0;
 
-    /// Parses the arguments behind the command's name and runs it.
+    /// The command's part of the help text: its usage and, indented, its description.
+    [[nodiscard]] QString help() const;
+
+    /// Parses the arguments behind the command's name and runs it, or prints its help where
+    /// "--help" is among the options.
     ExitStatus run(const QStringList& arguments, CliContext& context);
 
 protected:

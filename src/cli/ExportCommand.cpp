@@ -8,6 +8,7 @@
 #include "draft/compose/IndexComposer.h"
 #include "verification/engine/ErrorReportComposer.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QHash>
 
@@ -37,11 +38,15 @@ void requireComplete(const Project& project, UserPrompts& prompts) {
                         .arg(namedSections(incomplete)));
 }
 
-/// Where a file of this name lies, once it is there.
-QString placeOf(const QString& path) {
+/// Where a file of this name lies, or will lie once it is written: links are followed, those that
+/// lead to no file yet as well.
+QString placeOf(QString path) {
+    constexpr int MostLinks = 40; // the kernel follows no more
+    for (int i = 0; i < MostLinks && QFileInfo(path).isSymLink(); ++i)
+        path = QFileInfo(path).symLinkTarget();
     const QFileInfo file(path);
-    const QString canonical = file.canonicalFilePath();
-    return canonical.isEmpty() ? file.absoluteFilePath() : canonical;
+    const QString folder = file.dir().canonicalPath();
+    return folder.isEmpty() ? file.absoluteFilePath() : QDir(folder).filePath(file.fileName());
 }
 
 [[noreturn]] void raiseFailure(const std::optional<Error>& failure, const QString& path) {
@@ -85,7 +90,8 @@ void ExportCommand::addOptions(QCommandLineParser& parser) const {
     parser.addOption(QCommandLineOption(IncompleteOption));
 }
 
-/// No output may replace another one, or the project it is made from.
+/// An output replaces a file or makes one: it takes no folder's or device's place, nor that of
+/// another output or of the project that it is made from.
 void ExportCommand::checkOptions(const QCommandLineParser& parser,
                                  const QString& projectPath) const {
     QHash<QString, QString> taken{{placeOf(projectPath), QStringLiteral("the project")}};
@@ -93,8 +99,12 @@ void ExportCommand::checkOptions(const QCommandLineParser& parser,
         if (!parser.isSet(option))
             continue;
         const QString path = parser.value(option);
+        if (parser.values(option).size() > 1)
+            refuse(name(), QStringLiteral("--%1 is given more than once").arg(option));
         if (path.isEmpty())
             refuse(name(), QStringLiteral("--%1 expects the name of a file").arg(option));
+        if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
+            refuse(path, QStringLiteral("--%1 can only write a file").arg(option));
         if (taken.contains(placeOf(path)))
             refuse(path, QStringLiteral("--%1 would replace %2").arg(option, taken[placeOf(path)]));
         taken.insert(placeOf(path), QStringLiteral("the output of --%1").arg(option));
