@@ -21,9 +21,18 @@ const QString VerifyPassedKey = QStringLiteral("verifyPassed");
     throw Error(InvalidData, QStringLiteral("\"%1\" %2").arg(key, reason));
 }
 
+/// The toolkit's parser drops a byte order mark at the beginning of a text as it does at that of
+/// the file; as an escape it stays.
+QByteArray withMarksEscaped(QByteArray json) {
+    const QByteArray mark = QByteArrayLiteral("\xEF\xBB\xBF");
+    if (json.startsWith(mark))
+        json.remove(0, mark.size());
+    return json.replace(mark, "\\ufeff");
+}
+
 QJsonObject parsed(const QByteArray& json) {
     QJsonParseError failure;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &failure);
+    const QJsonDocument document = QJsonDocument::fromJson(withMarksEscaped(json), &failure);
     if (failure.error != QJsonParseError::NoError)
         throw Error(InvalidData,
                     QStringLiteral("it is no JSON: %1 at byte %2")
