@@ -1,5 +1,7 @@
 #include "platform/linux/QtPictureReader.h"
 
+#include "platform/linux/QuietErrors.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -19,6 +21,7 @@ std::optional<QSize> QtPictureReader::pixelSize(const QString& path) {
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(false);
     // Only a picture that really decodes has a size: the header of a damaged one proves nothing.
+    const QuietErrors quiet;
     const QImage picture = reader.read();
     if (picture.isNull())
         return std::nullopt;
