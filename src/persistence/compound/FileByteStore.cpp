@@ -1,0 +1,147 @@
+#include "persistence/compound/FileByteStore.h"
+
+#include "persistence/compound/StorageError.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/uio.h>
+#include <unistd.h>
+#include <utility>
+
+namespace quillford {
+
+namespace {
+
+/// Repeats a system call for as long as a signal interrupts it.
+template <typename Call>
+auto retried(Call call) {
+    auto result = call();
+    while (result == -1 && errno == EINTR)
+        result = call();
+    return result;
+}
+
+/// The system takes a bounded number of parts at a time. Longer lists go out in several calls.
+constexpr std::size_t MostParts = 64;
+
+struct PartCursor {
+    std::span<const Bytes> parts;
+    std::size_t used = 0; // bytes of the first part that are written already
+
+    [[nodiscard]] bool atEnd() const { return parts.empty(); }
+
+    std::span<const iovec> next(std::array<iovec, MostParts>& vectors) const {
+        const std::size_t count = std::min(parts.size(), MostParts);
+        for (std::size_t i = 0; i < count; ++i) {
+            const Bytes part = i == 0 ? parts[0].subspan(used) : parts[i];
+            vectors[i] = {const_cast<std::byte*>(part.data()), part.size()};
+        }
+        return {vectors.data(), count};
+    }
+
+    void advance(std::size_t bytes) {
+        while (!parts.empty() && bytes >= parts[0].size() - used) {
+            bytes -= parts[0].size() - used;
+            parts = parts.subspan(1);
+            used = 0;
+        }
+        used += bytes;
+    }
+};
+
+} // namespace
+
+FileByteStore::FileByteStore(QString path, int flags)
+    : path_(std::move(path)), descriptor_(retried([&] {
+          // Without O_NONBLOCK a pipe in the file's place would make the program wait for ever.
+          return ::open(QFile::encodeName(path_).constData(),
+                        O_RDWR | O_CLOEXEC | O_NONBLOCK | flags, 0666);
+      })) {
+    if (descriptor_ == -1)
+        throw storageError(codeOfOpenFailure(errno, path_), path_);
+}
+
+std::unique_ptr<FileByteStore> FileByteStore::open(const QString& path) {
+    std::unique_ptr<FileByteStore> store(new FileByteStore(path, 0));
+    store->lockRegularFile();
+    return store;
+}
+
+std::unique_ptr<FileByteStore> FileByteStore::create(const QString& path) {
+    std::unique_ptr<FileByteStore> store(new FileByteStore(path, O_CREAT | O_EXCL));
+    store->lockRegularFile();
+    return store;
+}
+
+FileByteStore::~FileByteStore() {
+    ::close(descriptor_);
+}
+
+void FileByteStore::lockRegularFile() {
+    struct stat status {};
+
+    if (fstat(descriptor_, &status) != 0 || !S_ISREG(status.st_mode))
+        throw storageError(StorageCode::AccessDenied, path_);
+    if (retried([&] { return flock(descriptor_, LOCK_EX | LOCK_NB); }) != 0)
+        throw storageError(codeOfOpenFailure(errno, path_), path_);
+}
+
+quint64 FileByteStore::size() {
+    struct stat status {};
+
+    if (fstat(descriptor_, &status) != 0)
+        throw storageError(StorageCode::ReadFault, path_);
+    return static_cast<quint64>(status.st_size);
+}
+
+std::size_t FileByteStore::read(quint64 offset, MutableBytes into) {
+    std::size_t done = 0;
+    while (done < into.size()) {
+        const ssize_t count = retried([&] {
+            return pread(descriptor_, into.data() + done, into.size() - done,
+                         static_cast<off_t>(offset + done));
+        });
+        if (count < 0)
+            throw storageError(StorageCode::ReadFault, path_, static_cast<qint64>(offset));
+        if (count == 0)
+            break;
+        done += static_cast<std::size_t>(count);
+    }
+    return done;
+}
+
+void FileByteStore::write(quint64 offset, std::span<const Bytes> parts) {
+    PartCursor cursor{parts};
+    cursor.advance(0);
+    std::array<iovec, MostParts> vectors;
+    while (!cursor.atEnd()) {
+        const auto next = cursor.next(vectors);
+        const ssize_t count = retried([&] {
+            return pwritev(descriptor_, next.data(), static_cast<int>(next.size()),
+                           static_cast<off_t>(offset));
+        });
+        if (count <= 0)
+            throw storageError(codeOfWriteFailure(count < 0 ? errno : ENOSPC), path_,
+                               static_cast<qint64>(offset));
+        offset += static_cast<quint64>(count);
+        cursor.advance(static_cast<std::size_t>(count));
+    }
+}
+
+void FileByteStore::truncate(quint64 size) {
+    if (retried([&] { return ftruncate(descriptor_, static_cast<off_t>(size)); }) != 0)
+        throw storageError(codeOfWriteFailure(errno), path_);
+}
+
+void FileByteStore::sync() {
+    if (retried([&] { return fsync(descriptor_); }) != 0)
+        throw storageError(codeOfWriteFailure(errno), path_);
+}
+
+} // namespace quillford
