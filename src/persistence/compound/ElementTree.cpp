@@ -15,7 +15,7 @@ std::vector<EntryId> ElementTree::elements(EntryId storage) const {
 std::vector<EntryId> ElementTree::withDescendants(EntryId element) const {
     std::vector<EntryId> found{element};
     for (std::size_t i = 0; i < found.size(); ++i) {
-        if (volume_.directory.at(found[i]).kind() == Kind::Stream)
+        if (volume_.directory.at(found[i]).kind() != Kind::Storage)
             continue;
         const std::vector<EntryId> below = elements(found[i]);
         found.insert(found.end(), below.begin(), below.end());

@@ -174,8 +174,12 @@ void Storage::DestroyElement(const QString& name) {
 StorageElements Storage::Elements() {
     Volume& volume = enter().settled();
     StorageElements elements;
-    for (const EntryId id : ElementTree(volume).elements(binding().element->id()))
-        elements.AddElement(compound::describe(volume, id));
+    for (const EntryId id : ElementTree(volume).elements(binding().element->id())) {
+        // A damaged record that tells neither a name nor a kind cannot be opened, nor shown.
+        const std::optional<Kind> kind = volume.directory.at(id).kind();
+        if (volume.directory.at(id).name() && (kind == Kind::Storage || kind == Kind::Stream))
+            elements.AddElement(compound::describe(volume, id));
+    }
     return elements;
 }
 

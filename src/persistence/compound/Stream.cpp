@@ -47,7 +47,8 @@ CompoundFile& Stream::enterToWrite() const {
 }
 
 quint64 Stream::sizeNow() const {
-    return state_->binding->element->file().settled().sizeOf(state_->binding->element->id());
+    Volume& volume = state_->binding->element->file().settled();
+    return StreamContent(volume).readableSize(state_->binding->element->id());
 }
 
 Stream Stream::Clone() const {

@@ -31,8 +31,13 @@ quint32 miniSectorsFor(quint64 bytes) {
 
 } // namespace
 
+quint64 StreamContent::readableSize(EntryId stream) const {
+    const quint64 unit = volume_.isMini(stream) ? MiniSectorSize : volume_.file.sectorSize();
+    return std::min(volume_.sizeOf(stream), volume_.chains[stream].length() * unit);
+}
+
 std::size_t StreamContent::read(EntryId stream, quint64 position, MutableBytes into) const {
-    const quint64 size = volume_.sizeOf(stream);
+    const quint64 size = readableSize(stream);
     if (position >= size)
         return 0;
     into = into.first(std::min<quint64>(into.size(), size - position));

@@ -13,6 +13,9 @@ class StreamContent {
 public:
     explicit StreamContent(Volume& volume) : volume_(volume) {}
 
+    /// The size of the stream; where a damaged file has less of it than it tells, what there is.
+    [[nodiscard]] quint64 readableSize(EntryId stream) const;
+
     /// Fills `into` from `position` on and gives the number of bytes read; fewer, or none, at the
     /// end of the stream or where a damaged file has no more of it.
     [[nodiscard]] std::size_t read(EntryId stream, quint64 position, MutableBytes into) const;
