@@ -63,8 +63,9 @@ Error storageError(StorageCode code, const QString& subject, qint64 offset) {
 StorageCode codeOfOpenFailure(int systemError, const QString& path) {
     switch (systemError) {
     case ENOENT:
-        return QFileInfo(QFileInfo(path).path()).isDir() ? StorageCode::FileNotFound
-                                                         : StorageCode::PathNotFound;
+        return path.isEmpty() || QFileInfo(QFileInfo(path).path()).isDir()
+                   ? StorageCode::FileNotFound
+                   : StorageCode::PathNotFound;
     case ENOTDIR:
         return StorageCode::PathNotFound;
     case EEXIST:

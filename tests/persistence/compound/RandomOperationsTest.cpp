@@ -5,9 +5,9 @@
 #include "support/MemoryByteStore.h"
 #include "support/PrintQt.h"
 
-#include <cstdlib>
 #include <QStringList>
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <map>
 #include <random>
