@@ -43,6 +43,11 @@ void Loader::load() {
         if (claimed_[sector])
             volume_.fat.setUsed(sector);
     }
+    // A sector of the table that the table itself does not cover could not be kept from others.
+    for (SectorId sector = volume_.fat.size(); sector < sectors_; ++sector) {
+        if (claimed_[sector])
+            noteDamage(volume_.file.offsetOf(sector));
+    }
 }
 
 void Loader::noteDamage(quint64 offset) {

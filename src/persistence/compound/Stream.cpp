@@ -121,7 +121,12 @@ qint32 Stream::ReadBuf(QByteArray& buffer, qint32 count) {
     if (count < 0)
         throw Error(SubscriptNumber, QStringLiteral("Subscript out of range"));
     requireMemoryFor(count);
-    buffer = QByteArray(count, Qt::Uninitialized);
+    // An array that is long enough and nobody else's is used again: fresh memory costs as much as
+    // the reading itself.
+    if (buffer.isDetached() && buffer.capacity() >= count)
+        buffer.resize(count);
+    else
+        buffer = QByteArray(count, Qt::Uninitialized);
     const std::size_t done =
         read(std::as_writable_bytes(std::span(buffer.data(), static_cast<std::size_t>(count))));
     std::fill(buffer.begin() + static_cast<qsizetype>(done), buffer.end(), '\0');
