@@ -59,13 +59,9 @@ QString CliProgram::helpText() const {
                                   "A PROJECT is a JSON file with the project's fields.\n\n");
     for (const auto& command : commands_)
         help += command->help();
-    return help + QStringLiteral("  quillford-cli --help | COMMAND --help | --version
-
-"
+    return help + QStringLiteral("  quillford-cli --help | COMMAND --help | --version\n\n"
                                  "Exit status: 0 done; 1 check found something; 2 a usage error or "
-                                 "a failure,
-told in one line on standard error.
-");
+                                 "a failure,\ntold in one line on standard error.\n");
 }
 
 } // namespace quillford

@@ -1,4 +1,4 @@
-#include "bench_storage/PlainSide.h"
+#include "storage/PlainSide.h"
 
 #include <QFile>
 

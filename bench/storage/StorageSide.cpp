@@ -1,4 +1,4 @@
-#include "bench_storage/StorageSide.h"
+#include "storage/StorageSide.h"
 
 #include "persistence/compound/StorageModes.h"
 #include "persistence/compound/mdlStorage.h"

@@ -1,4 +1,4 @@
-#include "bench_storage/GsfSide.h"
+#include "storage/GsfSide.h"
 
 #include <QFile>
 

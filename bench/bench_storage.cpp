@@ -1,6 +1,6 @@
-#include "bench_storage/GsfSide.h"
-#include "bench_storage/PlainSide.h"
-#include "bench_storage/StorageSide.h"
+#include "storage/GsfSide.h"
+#include "storage/PlainSide.h"
+#include "storage/StorageSide.h"
 
 #include <QFile>
 #include <QTemporaryDir>
