@@ -5,6 +5,7 @@
 #include "persistence/compound/StorageModes.h"
 #include "support/MemoryByteStore.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <vector>
 

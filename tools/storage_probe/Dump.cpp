@@ -3,7 +3,9 @@
 #include "persistence/compound/StorageError.h"
 #include "persistence/compound/StorageModes.h"
 
+#include <algorithm>
 #include <limits>
+#include <utility>
 
 using namespace quillford;
 

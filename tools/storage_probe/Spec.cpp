@@ -110,8 +110,7 @@ void Spec::writeContent(Stream& stream, quint64 seed, quint64 size) const {
     for (quint64 done = 0; done < size; done += chunk) {
         const QByteArray bytes =
             content.bytes(done, static_cast<qsizetype>(std::min(chunk, size - done)));
-        stream.write(
-            std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size()))));
+        stream.write(std::as_bytes(std::span(bytes)));
     }
 }
 
@@ -140,7 +139,7 @@ void Spec::picture(QStringList words) {
     Stream stream = openStream(words);
     stream.WriteData(source);
     stream.WriteData(static_cast<qint32>(bytes.size()));
-    stream.write(std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size()))));
+    stream.write(std::as_bytes(std::span(bytes)));
 }
 
 void Spec::write(QStringList words) {

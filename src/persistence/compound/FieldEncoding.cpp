@@ -6,6 +6,7 @@
 
 #include <array>
 #include <bit>
+#include <vector>
 
 namespace quillford {
 
@@ -43,8 +44,7 @@ QString readString(Stream& stream) {
     constexpr qint64 Unit = sizeof(char16_t);
     stream.requireMemoryFor(count * Unit);
     QString text(count, QChar());
-    const MutableBytes bytes =
-        std::as_writable_bytes(std::span(text.data(), static_cast<std::size_t>(text.size())));
+    const MutableBytes bytes = std::as_writable_bytes(std::span(text));
     (void)stream.read(bytes);
     qFromLittleEndian<quint16>(bytes.data(), text.size(), bytes.data());
     return text;

@@ -1,6 +1,7 @@
 #include "persistence/compound/MiniFat.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillford::compound {
 

@@ -40,7 +40,9 @@ public:
     void appendTableSector(Bytes bytes);
 
 protected:
-    [[nodiscard]] quint32 entriesInSector() const { return file_.sectorSize() / sizeof(SectorId); }
+    [[nodiscard]] quint32 entriesInSector() const {
+        return file_.sectorSize() / quint32{sizeof(SectorId)};
+    }
 
     [[nodiscard]] quint32 tableSectorOf(SectorId sector) const {
         return sector / entriesInSector();

@@ -79,8 +79,6 @@ public:
     [[nodiscard]] static Storage createRoot(std::unique_ptr<ByteStore> store, const QString& name);
 
 private:
-    struct Found;
-
     explicit Storage(std::shared_ptr<const compound::ElementBinding> binding);
 
     [[nodiscard]] const compound::ElementBinding& binding() const;

@@ -5,7 +5,6 @@
 #include "persistence/compound/StorageError.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 #include <vector>
 
@@ -127,8 +126,7 @@ qint32 Stream::ReadBuf(QByteArray& buffer, qint32 count) {
         buffer.resize(count);
     else
         buffer = QByteArray(count, Qt::Uninitialized);
-    const std::size_t done =
-        read(std::as_writable_bytes(std::span(buffer.data(), static_cast<std::size_t>(count))));
+    const std::size_t done = read(std::as_writable_bytes(std::span(buffer)));
     std::fill(buffer.begin() + static_cast<qsizetype>(done), buffer.end(), '\0');
     return static_cast<qint32>(done);
 }
@@ -138,8 +136,7 @@ qint32 Stream::WriteBuf(const QByteArray& buffer) {
     if (buffer.isNull())
         throw Error(SubscriptNumber, QStringLiteral("Subscript out of range"));
     try {
-        return static_cast<qint32>(write(
-            std::as_bytes(std::span(buffer.data(), static_cast<std::size_t>(buffer.size())))));
+        return static_cast<qint32>(write(std::as_bytes(std::span(buffer))));
     } catch (const Error& failure) {
         file.keep(failure);
         return 0;
@@ -154,14 +151,14 @@ qint64 Stream::CopyTo(Stream& dest, qint64 count) {
     qint64 copied = 0;
     std::vector<std::byte> block(static_cast<std::size_t>(std::min(missing, CopiedAtOnce)));
     while (missing > 0) {
-        const std::size_t count_ = read(MutableBytes(block).first(
+        const std::size_t got = read(MutableBytes(block).first(
             static_cast<std::size_t>(std::min<qint64>(missing, CopiedAtOnce))));
-        const std::size_t written = dest.write(Bytes(block).first(count_));
-        copied += static_cast<qint64>(count_);
-        missing -= static_cast<qint64>(count_);
-        if (written != count_)
+        const std::size_t written = dest.write(Bytes(block).first(got));
+        copied += static_cast<qint64>(got);
+        missing -= static_cast<qint64>(got);
+        if (written != got)
             throw Error(UnequalCounts, QString());
-        if (count_ == 0)
+        if (got == 0)
             break;
     }
     return copied;

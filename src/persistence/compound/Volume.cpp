@@ -3,6 +3,7 @@
 #include "base/ByteOrder.h"
 #include "persistence/compound/StorageError.h"
 
+#include <array>
 #include <vector>
 
 namespace quillford::compound {

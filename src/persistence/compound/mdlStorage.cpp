@@ -8,8 +8,10 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <span>
 
 namespace quillford {
 
@@ -89,9 +91,7 @@ bool IsStorageFile(const QString& fileName) {
     if (!file.open(QIODevice::ReadOnly))
         throw storageError(codeOfOpenFailure(errno, fileName), fileName);
     const QByteArray start = file.read(static_cast<qint64>(compound::Signature.size()));
-    return std::ranges::equal(
-        std::as_bytes(std::span(start.data(), static_cast<std::size_t>(start.size()))),
-        compound::Signature);
+    return std::ranges::equal(std::as_bytes(std::span(start)), compound::Signature);
 }
 
 } // namespace quillford

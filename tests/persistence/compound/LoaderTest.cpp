@@ -19,8 +19,7 @@ MemoryCompound fileNamed(const QString& path) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
     const QByteArray bytes = file.readAll();
-    const auto view =
-        std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size())));
+    const auto view = std::as_bytes(std::span(bytes));
     MemoryCompound compound;
     compound.file->bytes.assign(view.begin(), view.end());
     return compound;
