@@ -3,6 +3,7 @@
 #include "persistence/compound/StorageError.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -25,6 +26,14 @@ auto retried(Call call) {
     while (result == -1 && errno == EINTR)
         result = call();
     return result;
+}
+
+int openDescriptor(const QString& path, int flags) {
+    // Without O_NONBLOCK a pipe in the file's place would make the program wait for ever.
+    return retried([&] {
+        return ::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC | O_NONBLOCK | flags,
+                      0666);
+    });
 }
 
 /// The system takes a bounded number of parts at a time. Longer lists go out in several calls.
@@ -57,29 +66,45 @@ struct PartCursor {
 
 } // namespace
 
-FileByteStore::FileByteStore(QString path, int flags)
-    : path_(std::move(path)), descriptor_(retried([&] {
-          // Without O_NONBLOCK a pipe in the file's place would make the program wait for ever.
-          return ::open(QFile::encodeName(path_).constData(),
-                        O_RDWR | O_CLOEXEC | O_NONBLOCK | flags, 0666);
-      })) {
+FileByteStore::FileByteStore(QString path, int descriptor, Place place)
+    : path_(std::move(path)), descriptor_(descriptor), place_(place) {
     if (descriptor_ == -1)
         throw storageError(codeOfOpenFailure(errno, path_), path_);
 }
 
 std::unique_ptr<FileByteStore> FileByteStore::open(const QString& path) {
-    std::unique_ptr<FileByteStore> store(new FileByteStore(path, 0));
+    std::unique_ptr<FileByteStore> store(
+        new FileByteStore(path, openDescriptor(path, 0), Place::Named));
     store->lockRegularFile();
     return store;
 }
 
 std::unique_ptr<FileByteStore> FileByteStore::create(const QString& path) {
-    std::unique_ptr<FileByteStore> store(new FileByteStore(path, O_CREAT | O_EXCL));
+    if (QFile::exists(path))
+        throw storageError(StorageCode::FileAlreadyExists, path);
+    int descriptor = openDescriptor(QFileInfo(path).path(), O_TMPFILE);
+    Place place = Place::Unnamed;
+    if (descriptor == -1 && (errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL)) {
+        descriptor = openDescriptor(path, O_CREAT | O_EXCL);
+        place = Place::Provisional;
+    }
+    std::unique_ptr<FileByteStore> store(new FileByteStore(path, descriptor, place));
     store->lockRegularFile();
     return store;
 }
 
+void FileByteStore::giveName() {
+    const QByteArray self = "/proc/self/fd/" + QByteArray::number(descriptor_);
+    if (place_ == Place::Unnamed &&
+        linkat(AT_FDCWD, self.constData(), AT_FDCWD, QFile::encodeName(path_).constData(),
+               AT_SYMLINK_FOLLOW) != 0)
+        throw storageError(codeOfOpenFailure(errno, path_), path_);
+    place_ = Place::Named;
+}
+
 FileByteStore::~FileByteStore() {
+    if (place_ == Place::Provisional)
+        QFile::remove(path_);
     ::close(descriptor_);
 }
 

@@ -16,8 +16,15 @@ public:
     /// `AccessDenied` or `ShareViolation`.
     [[nodiscard]] static std::unique_ptr<FileByteStore> open(const QString& path);
 
-    /// Makes the file `path`, which must not exist (`FileAlreadyExists`); it is empty.
+    /// Makes an empty file for the free place `path` (`FileAlreadyExists` otherwise). Nobody finds
+    /// it there before `giveName`: so a program that is stopped in between leaves nothing that is
+    /// no compound file and blocks the name. On a file system that has no files without a name it
+    /// stands there at once and is taken away again unless `giveName` is called.
     [[nodiscard]] static std::unique_ptr<FileByteStore> create(const QString& path);
+
+    /// Puts a file that `create` made into its place. Raises `FileAlreadyExists` when somebody else
+    /// was faster.
+    void giveName();
 
     FileByteStore(const FileByteStore&) = delete;
     FileByteStore& operator=(const FileByteStore&) = delete;
@@ -30,12 +37,15 @@ public:
     void sync() override;
 
 private:
-    FileByteStore(QString path, int flags);
+    enum class Place { Named, Unnamed, Provisional };
+
+    FileByteStore(QString path, int descriptor, Place place);
 
     void lockRegularFile();
 
     QString path_;
     int descriptor_;
+    Place place_;
 };
 
 } // namespace quillford

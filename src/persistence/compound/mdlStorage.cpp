@@ -12,6 +12,7 @@
 #include <array>
 #include <cerrno>
 #include <span>
+#include <utility>
 
 namespace quillford {
 
@@ -19,13 +20,10 @@ namespace {
 
 Storage createFile(const QString& fileName) {
     auto store = FileByteStore::create(fileName);
-    try {
-        return Storage::createRoot(std::move(store), fileName);
-    } catch (const Error&) {
-        // What could not be filled (a full disk) would be no compound file and block its own name.
-        QFile::remove(fileName);
-        throw;
-    }
+    FileByteStore& made = *store;
+    Storage root = Storage::createRoot(std::move(store), fileName);
+    made.giveName();
+    return root;
 }
 
 Storage createOrReplaceFile(const QString& fileName, bool overwrite) {

@@ -1,5 +1,6 @@
 #include "persistence/compound/mdlStorage.h"
 
+#include "persistence/compound/FileByteStore.h"
 #include "support/CompoundTesting.h"
 #include "support/PrintQt.h"
 
@@ -7,6 +8,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -171,9 +174,28 @@ TEST_F(StorageFile, that_is_read_only_is_refused) {
 }
 
 TEST_F(StorageFile, that_cannot_be_filled_is_not_left_behind) {
-    // The system refuses every write to this device with the error of a full disk.
-    Storage storage = CreateStorageFile(u"/dev/full"_s, props_, true, overwrite_);
-    EXPECT_NE(errorOf([&] { storage.Commit(0); }), 0);
+    // The system refuses to let any file of this process grow, as a full disk does.
+    rlimit old{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit none{0, old.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
+    props_ = true;
+    Storage storage = create();
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &old), 0);
+    std::signal(SIGXFSZ, before);
+    EXPECT_EQ(errorOf([&] { storage.Commit(0); }), 0x80030070);
+    EXPECT_FALSE(QFile::exists(path()));
+}
+
+TEST_F(StorageFile, has_no_name_before_it_is_a_compound_file) {
+    const auto store = FileByteStore::create(path());
+    if (QFile::exists(path()))
+        GTEST_SKIP() << "this file system has no files without a name";
+    put("somebody was faster");
+    EXPECT_EQ(errorOf([&] { store->giveName(); }), 58);
+    EXPECT_EQ(get(), "somebody was faster");
+    EXPECT_EQ(errorOf([&] { (void)FileByteStore::create(path()); }), 58);
 }
 
 TEST_F(StorageFile, is_known_by_its_first_bytes) {
