@@ -136,11 +136,16 @@ def without_faults(tree, peer, kept):
     return tree
 
 
+compared = 0
+
+
 def compare(what, file, readers):
+    global compared
     kept = ours(file)
     good = True
     for peer, read in readers.items():
         mine, theirs = (without_faults(tree, peer, kept) for tree in (kept, read(file)))
+        compared += len(mine)
         for path in sorted(set(mine) | set(theirs)):
             if mine.get(path) != theirs.get(path):
                 print(f"FAILED {what}, {peer}: {path!r}: {mine.get(path)} here, {theirs.get(path)}")
@@ -196,7 +201,8 @@ def main():
             for name, lines in FROM_GSF.items():
                 for sector in SECTORS_OF_GSF.get(name, (512, 4096)):
                     good = check_theirs(name, lines, sector, folder, readers) and good
-    print(f"{len(SHAPES)} shapes read by {', '.join(readers) or 'nobody'}")
+    print(f"{len(SHAPES)} shapes read by {', '.join(readers) or 'nobody'}: "
+          f"{compared} elements compared")
     if not good:
         return 1
     if len(readers) < 2:

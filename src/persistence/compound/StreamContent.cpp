@@ -107,7 +107,8 @@ void StreamContent::writeMini(EntryId stream, quint64 position, std::span<const 
         added = volume_.mini.allocate(needed - chain.length());
     Chain whole = chain;
     whole.append(added);
-    const quint64 room = added.isEmpty() ? totalOf(parts) : needed * MiniSectorSize - position;
+    const quint64 room =
+        added.isEmpty() ? totalOf(parts) : quint64{needed} * MiniSectorSize - position;
     Extents extents = volume_.file.miniExtents(volume_.mini.container(), whole, position, room);
     for (const Extent& rest : volume_.mini.unusedRest())
         addExtent(extents, rest);
