@@ -2,12 +2,20 @@
 
 #include "base/Error.h"
 
-#include <QFile>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace quillford {
 
+void raiseFileError(const QFileDevice& file, const QString& path) {
+    throw Error(file.error(), file.errorString(), path);
+}
+
 void raiseFileError(const QFileDevice& file) {
-    throw Error(file.error(), file.errorString(), file.fileName());
+    raiseFileError(file, file.fileName());
 }
 
 QByteArray contentOfFile(const QString& path) {
@@ -20,13 +28,34 @@ QByteArray contentOfFile(const QString& path) {
     return content;
 }
 
-void writeAll(QFileDevice& file, const QByteArray& bytes) {
+void writeAll(QFileDevice& file, const QByteArray& bytes, const QString& path) {
     // On a full disk a write may be short without an error; the next one has it.
     for (qint64 written = 0; written < bytes.size();) {
         const qint64 count = file.write(bytes.constData() + written, bytes.size() - written);
         if (count <= 0)
-            raiseFileError(file);
+            raiseFileError(file, path);
         written += count;
+    }
+}
+
+void openPlainFile(QFile& file, const QString& path) {
+    const auto fail = [&path](int code) {
+        throw Error(code, QString::fromLocal8Bit(strerror(code)), path);
+    };
+    if (path.contains(QChar(u'\0')))
+        fail(EINVAL);
+    const int descriptor = open(QFile::encodeName(path).constData(),
+                                O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666);
+    if (descriptor < 0)
+        fail(errno);
+
+    struct stat status {};
+
+    const bool isPlain = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+    if (!isPlain || !file.open(descriptor, QIODevice::ReadWrite | QIODevice::Unbuffered,
+                               QFileDevice::AutoCloseHandle)) {
+        close(descriptor);
+        fail(EINVAL);
     }
 }
 

@@ -1,19 +1,26 @@
 #pragma once
 
 #include <QByteArray>
-#include <QFileDevice>
+#include <QFile>
 #include <QString>
 
 namespace quillford {
 
-/// Raises the failure of a file as an `Error` whose source is the file's name.
+/// Raises the failure of a file as an `Error` whose source is `path`, the file's name where that is
+/// left out.
+[[noreturn]] void raiseFileError(const QFileDevice& file, const QString& path);
 [[noreturn]] void raiseFileError(const QFileDevice& file);
 
 /// The whole content of the file `path`. Raises `Error` naming the file when it cannot be read.
 [[nodiscard]] QByteArray contentOfFile(const QString& path);
 
-/// Writes all the bytes to a file that was opened without a buffer. Raises `Error` naming the file
-/// when they do not all find room; a part of them may be written then.
-void writeAll(QFileDevice& file, const QByteArray& bytes);
+/// Writes all the bytes to a file that was opened without a buffer. Raises `Error` whose source is
+/// `path` when they do not all find room; a part of them may be written then.
+void writeAll(QFileDevice& file, const QByteArray& bytes, const QString& path);
+
+/// Opens the file `path` without a buffer, for writing at its start, and makes it if it is missing.
+/// It is not emptied. Meant for folders in which others may have put things: a link is not
+/// followed, and anything but a plain file is refused. Raises `Error` naming the file.
+void openPlainFile(QFile& file, const QString& path);
 
 } // namespace quillford

@@ -43,15 +43,17 @@ QString figurePath(const ProjectFields& fields, int index) {
     return fields.figureState(index).workingCopy;
 }
 
+void measureFigure(ProjectFields& fields, int index, const QString& path, PictureReader& pictures) {
+    const auto pixels = pictures.pixelSize(path);
+    const QSize size = pixels ? computeFigureSize(*pixels) : QSize();
+    fields.figureState(index).sizeText =
+        pixels ? QStringLiteral("%1, %2").arg(size.width()).arg(size.height()) : QString();
+}
+
 void measureFigures(ProjectFields& fields, PictureReader& pictures) {
-    for (int i = 0; i < fields.panelCount(FieldGroup::Figures); ++i) {
-        if (!fields.txtAttachFig(i).isFilled())
-            continue;
-        const auto pixels = pictures.pixelSize(figurePath(fields, i));
-        const QSize size = pixels ? computeFigureSize(*pixels) : QSize();
-        fields.figureState(i).sizeText =
-            pixels ? QStringLiteral("%1, %2").arg(size.width()).arg(size.height()) : QString();
-    }
+    for (int i = 0; i < fields.panelCount(FieldGroup::Figures); ++i)
+        if (fields.txtAttachFig(i).isFilled())
+            measureFigure(fields, i, figurePath(fields, i), pictures);
 }
 
 } // namespace quillford

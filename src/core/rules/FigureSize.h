@@ -18,6 +18,10 @@ namespace quillford {
 /// keeps the size it had.
 void measureFigures(ProjectFields& fields, PictureReader& pictures);
 
+/// Puts the draft size of the picture in the file `path` beside figure `index`; empties it when the
+/// picture cannot be read.
+void measureFigure(ProjectFields& fields, int index, const QString& path, PictureReader& pictures);
+
 /// The file from which figure `index` is drawn: the one named in `txtAttachFig(i)`, as the name
 /// stands, when it is not blank and such a file (no folder) exists; otherwise the working copy's
 /// path, whether that exists or not.

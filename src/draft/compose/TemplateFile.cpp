@@ -13,10 +13,11 @@ QString writeTemplateFile(const QString& templateName, Folders& folders) {
     const QString path = folders.temporaryFolder() + QStringLiteral("/Temp%1.htm").arg(number);
     const QByteArray content =
         contentOfFile(QStringLiteral(":/templates/%1.htm").arg(templateName));
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        raiseFileError(file);
-    writeAll(file, content);
+    QFile file;
+    openPlainFile(file, path);
+    if (!file.resize(0))
+        raiseFileError(file, path);
+    writeAll(file, content, path);
     return path;
 }
 

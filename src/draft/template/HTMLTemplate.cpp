@@ -46,7 +46,7 @@ void HTMLTemplate::SaveAs(const QString& path, const QString& text) const {
     // Without a buffer: `commit` would not look at what becomes of the bytes that are left in it.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         raiseFileError(file);
-    writeAll(file, text.toUtf8() + "\r\n");
+    writeAll(file, text.toUtf8() + "\r\n", path);
     if (!file.commit())
         raiseFileError(file);
 }

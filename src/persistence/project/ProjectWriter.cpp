@@ -1,0 +1,174 @@
+#include "persistence/project/ProjectWriter.h"
+
+#include "base/Files.h"
+#include "core/rules/FigureSize.h"
+#include "persistence/compound/StorageModes.h"
+#include "persistence/compound/mdlStorage.h"
+#include "persistence/project/ProjectFileFormat.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace quillford {
+
+namespace {
+
+constexpr qint64 SubscriptOutOfRange = 9;
+constexpr qint64 Overflow = 6;
+
+Stream createStream(Storage& storage, const QString& name) {
+    return storage.CreateStream(name, StorageMode::Exclusive);
+}
+
+Stream createSection(Storage& root, int section) {
+    return createStream(root, ProjectFileFormat::sectionStream(section));
+}
+
+/// The number of bytes as it is stored. A file without bytes gives an array without bounds, which
+/// has no count either.
+qint32 storedCount(const QByteArray& bytes, const QString& path) {
+    if (bytes.isNull())
+        throw Error(SubscriptOutOfRange, QStringLiteral("the picture holds no bytes"), path);
+    if (bytes.size() > std::numeric_limits<qint32>::max())
+        throw Error(Overflow, QStringLiteral("the picture is too large to be stored"), path);
+    return static_cast<qint32>(bytes.size());
+}
+
+} // namespace
+
+ProjectWriter::ProjectWriter(const Project& project, UserPrompts& prompts)
+    : project_(project), fields_(project.fields), prompts_(prompts) {}
+
+void ProjectWriter::write(const QString& path, Durability durability) {
+    bool createProps = true;
+    bool overwrite = false;
+    constexpr bool ansi = true;
+    Storage root = CreateStorageFile(path, createProps, ansi, overwrite);
+    writeVersion(root);
+    writeSection1(root);
+    writeSection2(root);
+    writeSection3(root);
+    writeSection4(root);
+    writeSection5(root);
+    writeSection6(root);
+    writeSection7(root);
+    writeSection8(root);
+    writeVerify(root);
+    writePictures(root);
+    root.Commit(0);
+    if (durability == Durability::OnDisk)
+        root.Sync();
+}
+
+void ProjectWriter::writeVersion(Storage& root) const {
+    createStream(root, ProjectFileFormat::VersionStream).WriteData(ProjectFileFormat::Version);
+}
+
+void ProjectWriter::writeSection1(Storage& root) const {
+    Stream stream = createSection(root, 1);
+    for (const FieldRow& row : fieldTable())
+        if (row.section == 1)
+            writeField(stream, fields_.at(row.id));
+}
+
+void ProjectWriter::writeSection2(Storage& root) const {
+    Stream stream = createSection(root, 2);
+    writeField(stream, fields_.cboInventorsNum);
+    stream.WriteData(static_cast<qint16>(fields_.chkSameAsContact.number()));
+    writePanels(stream, FieldGroup::Inventors,
+                std::min(fields_.cboInventorsNum.number(), fields_.txtNameStep2.count()));
+}
+
+void ProjectWriter::writeSection3(Storage& root) const {
+    Stream stream = createSection(root, 3);
+    writeField(stream, fields_.txtPurpose);
+    writeField(stream, fields_.cboObjectNum);
+    writePanels(stream, FieldGroup::Objects, fields_.panelCount(FieldGroup::Objects));
+}
+
+/// With no figure the group of the one panel that always stands is written all the same; a reader
+/// stops at the count.
+void ProjectWriter::writeSection4(Storage& root) const {
+    Stream stream = createSection(root, 4);
+    writeField(stream, fields_.cboFiguresNum);
+    writePanels(stream, FieldGroup::Figures, fields_.panelCount(FieldGroup::Figures));
+}
+
+void ProjectWriter::writeSection5(Storage& root) const {
+    Stream stream = createSection(root, 5);
+    writeField(stream, fields_.txtMainElement);
+    writeField(stream, fields_.cboMainElementNum);
+    writePanels(stream, FieldGroup::MainElements, fields_.panelCount(FieldGroup::MainElements));
+}
+
+void ProjectWriter::writeSection6(Storage& root) const {
+    Stream stream = createSection(root, 6);
+    writePanels(stream, FieldGroup::SubElements, fields_.panelCount(FieldGroup::SubElements));
+}
+
+void ProjectWriter::writeSection7(Storage& root) const {
+    Stream stream = createSection(root, 7);
+    writePanels(stream, FieldGroup::Descriptions, fields_.panelCount(FieldGroup::Descriptions));
+    writeField(stream, fields_.txtDesConnections);
+    writeField(stream, fields_.txtDesAlterative);
+}
+
+void ProjectWriter::writeSection8(Storage& root) const {
+    Stream stream = createSection(root, 8);
+    writeField(stream, fields_.txtOperation);
+}
+
+void ProjectWriter::writeVerify(Storage& root) const {
+    createStream(root, ProjectFileFormat::VerifyStream)
+        .WriteData(project_.state.verifyPassed ? ProjectFileFormat::True
+                                               : ProjectFileFormat::False);
+}
+
+void ProjectWriter::writePictures(Storage& root) {
+    Storage pictures =
+        root.CreateStorage(ProjectFileFormat::PicturesStorage, StorageMode::Exclusive);
+    if (fields_.cboFiguresNum.number() == 0)
+        return;
+    for (int i = 0; i < fields_.panelCount(FieldGroup::Figures); ++i)
+        if (fields_.txtAttachFig(i).isFilled())
+            writePicture(pictures, i);
+}
+
+void ProjectWriter::writePicture(Storage& pictures, int figure) {
+    const QString path = figurePath(fields_, figure);
+    Stream stream = createStream(pictures, ProjectFileFormat::pictureStream(figure));
+    stream.WriteData(path);
+    const QByteArray bytes = readFileBytes(path);
+    stream.WriteData(storedCount(bytes, path));
+    stream.WriteBuf(bytes);
+}
+
+void ProjectWriter::writeField(Stream& stream, const Field& field) const {
+    stream.WriteData(ProjectFileFormat::isWrittenTrimmed(field.row()) ? field.trimmedText()
+                                                                      : field.text());
+}
+
+void ProjectWriter::writePanel(Stream& stream, FieldGroup group, int index) const {
+    for (const FieldRow& row : fieldTable())
+        if (row.group == group)
+            writeField(stream, fields_.at(row.id, index));
+}
+
+void ProjectWriter::writePanels(Stream& stream, FieldGroup group, int count) const {
+    for (int i = 0; i < count; ++i)
+        writePanel(stream, group, i);
+}
+
+/// The bytes of a file, or an array without bounds for one that is empty or cannot be read; the
+/// user is told why it cannot.
+QByteArray ProjectWriter::readFileBytes(const QString& path) {
+    try {
+        const QByteArray bytes = contentOfFile(path);
+        return bytes.isEmpty() ? QByteArray() : bytes;
+    } catch (const Error& error) {
+        prompts_.showMessage(UserPrompts::Icon::None, {}, error.description());
+        return {};
+    }
+}
+
+} // namespace quillford

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "core/fields/Project.h"
+#include "persistence/compound/Storage.h"
+#include "platform/UserPrompts.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace quillford {
+
+/// Writes a project into its file, stream after stream. An existing file is written over in place:
+/// every stream keeps its old length, and streams that the project no longer has stay.
+class ProjectWriter {
+public:
+    /// How far the bytes have come when `write` returns: handed to the system, or on the disk.
+    enum class Durability { Flushed, OnDisk };
+
+    /// Owns none of its arguments; all outlive it.
+    ProjectWriter(const Project& project, UserPrompts& prompts);
+
+    /// Writes the project into the file `path`, which is made if it is missing. The file is open
+    /// only as long as the call lasts.
+    ///
+    /// Raises the `Error` of the first step that fails, of the storage layer or of a picture that
+    /// cannot be read; the streams written so far are new then, the others old, and the file opens.
+    void write(const QString& path, Durability durability);
+
+private:
+    void writeVersion(Storage& root) const;
+    void writeSection1(Storage& root) const;
+    void writeSection2(Storage& root) const;
+    void writeSection3(Storage& root) const;
+    void writeSection4(Storage& root) const;
+    void writeSection5(Storage& root) const;
+    void writeSection6(Storage& root) const;
+    void writeSection7(Storage& root) const;
+    void writeSection8(Storage& root) const;
+    void writeVerify(Storage& root) const;
+    void writePictures(Storage& root);
+    void writePicture(Storage& pictures, int figure);
+
+    void writeField(Stream& stream, const Field& field) const;
+    void writePanel(Stream& stream, FieldGroup group, int index) const;
+    void writePanels(Stream& stream, FieldGroup group, int count) const;
+
+    [[nodiscard]] QByteArray readFileBytes(const QString& path);
+
+    const Project& project_;
+    const ProjectFields& fields_;
+    UserPrompts& prompts_;
+};
+
+} // namespace quillford
