@@ -163,12 +163,13 @@ std::vector<PropertyInfo> DocProperties::EnumProperties(qint32 set) const {
     return sets.find(place.format)->properties();
 }
 
-#define QF_DOC_PROPERTY(name, set, identifier, type)                                               \
+#define QF_DOC_PROPERTY(name, number, identifier, type)                                            \
     type DocProperties::name() const {                                                             \
-        return propertyAs<type>(GetPropertyByName(set, quint32{identifier}));                      \
+        return propertyAs<type>(GetPropertyByName(number, quint32{identifier}));                   \
     }                                                                                              \
+                                                                                                   \
     void DocProperties::set##name(const type& value) {                                             \
-        SetPropertyByName(set, quint32{identifier}, propertyFrom(value));                          \
+        SetPropertyByName(number, quint32{identifier}, propertyFrom(value));                       \
     }
 #include "persistence/project/DocPropertyRows.def"
 #undef QF_DOC_PROPERTY

@@ -69,7 +69,7 @@ public:
 /// The properties that have a name of their own: `Title()` and `setTitle(value)`, and so on. One
 /// that is not there, or is of another type, is an empty text, 0, an invalid point in time or an
 /// empty span.
-#define QF_DOC_PROPERTY(name, set, identifier, type)                                               \
+#define QF_DOC_PROPERTY(name, number, identifier, type)                                            \
     [[nodiscard]] type name() const;                                                               \
     void set##name(const type& value);
 #include "persistence/project/DocPropertyRows.def"
