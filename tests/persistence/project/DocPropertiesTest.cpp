@@ -2,6 +2,9 @@
 
 #include "DocPropertiesFixture.h"
 
+#include <csignal>
+#include <sys/resource.h>
+
 using namespace quillford;
 using namespace std::chrono_literals;
 using namespace Qt::Literals::StringLiterals;
@@ -17,6 +20,28 @@ class DocPropertiesTest : public DocPropertiesFixture {};
 
 using DocPropertiesBinding = DocPropertiesTest;
 using DocPropertiesTransaction = DocPropertiesTest;
+
+/// No file can grow beyond a size: a full disk.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit now{size, before_.rlim_max};
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &now), 0);
+    }
+
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+private:
+    rlimit before_{};
+    void (*handler_)(int);
+};
 
 void expectError(const std::optional<Error>& error, const QString& description) {
     ASSERT_TRUE(error);
@@ -384,6 +409,21 @@ TEST_F(DocPropertiesTransaction, saves_nothing_twice_and_nothing_that_did_not_ch
     (void)p.Company();
     p.Save();
     EXPECT_EQ(bytes(), saved);
+}
+
+TEST_F(DocPropertiesTransaction, holds_what_could_not_be_written_until_it_can) {
+    DocProperties p;
+    p.BindToFile(file());
+    p.setTitle(QString(100'000, u'x'));
+    {
+        const FileSizeLimit limit(static_cast<rlim_t>(bytes().size()));
+        EXPECT_EQ(numberOfError([&] { p.Save(); }), numberOf(StorageCode::MediumFull));
+    }
+    EXPECT_EQ(p.Title().size(), 100'000);
+    p.Save();
+    p.CloseFile();
+    p.BindToFile(file());
+    EXPECT_EQ(p.Title().size(), 100'000);
 }
 
 TEST_F(DocPropertiesTransaction, saves_two_sets_of_one_stream_together) {
