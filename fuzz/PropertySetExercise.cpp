@@ -66,9 +66,10 @@ std::optional<quint32> change(PropertySection& section) {
 
 void requireSame(const PropertySection& left, const PropertySection& right) {
     promise(left.properties() == right.properties());
+    promise(left.stored().size() == right.stored().size());
     for (std::size_t i = 0; i < left.stored().size(); ++i) {
-        const QByteArray& bytes = left.stored()[i].bytes;
-        promise(right.stored()[i].bytes.startsWith(bytes));
+        promise(left.stored()[i].identifier == right.stored()[i].identifier);
+        promise(left.stored()[i].bytes == right.stored()[i].bytes);
     }
 }
 

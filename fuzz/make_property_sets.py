@@ -6,7 +6,7 @@
 A regression is a good stream with a few bytes changed. Its name tells the fault: the reader's own
 words, then behind "--" how it came about. A name that begins with "value" is that of a stream that
 is read, with one damaged value or name in it. The files stand in the tree: run this again only
-after adding a fault.
+after adding a fault. What fuzzing found stands beside them under the same kind of name.
 """
 import struct
 import uuid

@@ -27,7 +27,8 @@ struct PropertyInfo {
 /// was read.
 class PropertySection {
 public:
-    /// A value as it stands: its type and what follows, or the bytes of the dictionary.
+    /// A value as it stands: its type and what follows, or the bytes of the dictionary; up to a
+    /// multiple of 4.
     struct Property {
         quint32 identifier;
         QByteArray bytes;

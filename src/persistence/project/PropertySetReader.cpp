@@ -3,6 +3,7 @@
 #include "persistence/project/PropertyBytes.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillford {
 
@@ -101,9 +102,10 @@ PropertySection readSection(Bytes bytes, const SectionPlace& place) {
         if (end - property.begin < sizeof(quint32))
             raiseDamaged(QStringLiteral("a value is shorter than its type"),
                          place.begin + property.begin);
-        properties.push_back(
-            {property.identifier, section.mid(static_cast<qsizetype>(property.begin),
-                                              static_cast<qsizetype>(end - property.begin))});
+        QByteArray value = section.mid(static_cast<qsizetype>(property.begin),
+                                       static_cast<qsizetype>(end - property.begin));
+        align(value); // as it will be written, so that what is read then is the same
+        properties.push_back({property.identifier, std::move(value)});
     }
     return {place.format, std::move(properties)};
 }

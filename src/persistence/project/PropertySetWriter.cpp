@@ -26,7 +26,6 @@ QByteArray encoded(const PropertySection& section) {
         appendNumber(places,
                      static_cast<quint32>(firstValue + static_cast<std::size_t>(values.size())));
         values += property.bytes;
-        align(values);
         requireLength(values.size());
     }
     QByteArray bytes;

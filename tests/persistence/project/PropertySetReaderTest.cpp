@@ -96,7 +96,7 @@ TEST(PropertySetReader, keeps_the_other_values_of_a_set_with_a_damaged_one) {
         }
         ++read;
     }
-    EXPECT_EQ(read, 15);
+    EXPECT_EQ(read, 16);
     EXPECT_EQ(withAnother, 8);
 }
 
