@@ -81,8 +81,7 @@ TEST(PropertyDictionary, gives_the_names_before_a_damage_and_takes_no_other) {
 
 TEST(PropertyDictionary, refuses_a_name_that_cannot_be_one) {
     PropertyDictionary names{CodePage(1252)};
-    for (const QString& name :
-         {QString(), QString(256, u'a'), u"a\0"_s, u"\u0416"_s})
+    for (const QString& name : {QString(), QString(256, u'a'), u"a\0"_s, u"\u0416"_s})
         EXPECT_EQ(numberOfError([&] { names.add(2, name); }), numberOf(StorageCode::InvalidName));
     names.add(2, QString(255, u'a'));
     EXPECT_EQ(names.nameOf(2).size(), 255);
