@@ -1,5 +1,6 @@
 #include "persistence/compound/mdlStorage.h"
 #include "storage_probe/Dump.h"
+#include "storage_probe/Props.h"
 #include "storage_probe/Spec.h"
 
 #include <QFile>
@@ -33,6 +34,14 @@ int createProps(const QString& fileName) {
     return made ? Done : Failure;
 }
 
+int getProps(const QString& fileName) {
+    DocProperties properties;
+    properties.BindToFile(fileName);
+    const QByteArray text = propsAsText(properties);
+    std::fwrite(text.data(), 1, static_cast<std::size_t>(text.size()), stdout);
+    return Done;
+}
+
 int run(const QStringList& words) {
     const QString call = words.value(0);
     const QString file = words.value(1);
@@ -56,6 +65,8 @@ int run(const QStringList& words) {
     }
     if (call == u"props" && words.size() == 3 && words[2] == u"create")
         return createProps(file);
+    if (call == u"props" && words.size() == 3 && words[2] == u"get")
+        return getProps(file);
     std::fprintf(stderr, "storage_probe: there is no such call\n");
     return NotThere;
 }
