@@ -99,8 +99,8 @@ void CheckCommand::addOptions(QCommandLineParser& parser) const {
 
 void CheckCommand::checkOptions(const QCommandLineParser&, const QString&) const {}
 
-ExitStatus CheckCommand::execute(const QCommandLineParser& parser, Project& project,
-                                 CliContext& context) {
+ExitStatus CheckCommand::executeOn(const QCommandLineParser& parser, Project& project,
+                                   const ReadReport&, CliContext& context) {
     CliPrompts prompts(context.errors);
     const Findings findings = findingsIn(project, prompts);
     context.print(parser.isSet(JsonOption) ? jsonOf(findings) : linesOf(findings));

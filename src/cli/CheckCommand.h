@@ -1,12 +1,12 @@
 #pragma once
 
-#include "cli/Command.h"
+#include "cli/ProjectCommand.h"
 
 namespace quillford {
 
 /// Tells whether a project is ready for its Final Draft: the verdict on each section, and the
 /// elements and numerals of which nothing is written.
-class CheckCommand final : public Command {
+class CheckCommand final : public ProjectCommand {
 public:
     [[nodiscard]] QString name() const override { return QStringLiteral("check"); }
 
@@ -22,8 +22,8 @@ protected:
     void checkOptions(const QCommandLineParser& parser, const QString& projectPath) const override;
 
     /// `Found` when a section is not complete or anything is missing.
-    ExitStatus execute(const QCommandLineParser& parser, Project& project,
-                       CliContext& context) override;
+    ExitStatus executeOn(const QCommandLineParser& parser, Project& project,
+                         const ReadReport& report, CliContext& context) override;
 };
 
 } // namespace quillford

@@ -4,6 +4,7 @@
 #include "cli/CheckCommand.h"
 #include "cli/CliPrompts.h"
 #include "cli/ExportCommand.h"
+#include "cli/NewCommand.h"
 #include "cli/ShowCommand.h"
 
 #include <exception>
@@ -18,6 +19,7 @@ const QString SeeHelp = QStringLiteral("quillford-cli --help lists the commands"
 
 CliProgram::CliProgram(CliContext& context) : context_(context) {
     commands_.push_back(std::make_unique<ShowCommand>());
+    commands_.push_back(std::make_unique<NewCommand>());
     commands_.push_back(std::make_unique<ExportCommand>());
     commands_.push_back(std::make_unique<CheckCommand>());
 }
@@ -56,7 +58,8 @@ ExitStatus CliProgram::dispatch(const QStringList& arguments) {
 
 QString CliProgram::helpText() const {
     QString help = QStringLiteral("quillford-cli composes provisional patent applications.\n\n"
-                                  "A PROJECT is a JSON file with the project's fields.\n\n");
+                                  "A PROJECT is a project file (.ivd) or a JSON file with the "
+                                  "project's fields.\n\n");
     for (const auto& command : commands_)
         help += command->help();
     return help + QStringLiteral("  quillford-cli --help | COMMAND --help | --version\n\n"

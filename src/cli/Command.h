@@ -2,7 +2,6 @@
 
 #include "base/Error.h"
 #include "cli/CliContext.h"
-#include "core/fields/Project.h"
 
 #include <QCommandLineParser>
 #include <QString>
@@ -17,9 +16,9 @@ enum class ExitStatus {
     Failed = 2, ///< a usage error or a failure, told in one line on standard error
 };
 
-/// One command of the command line. A command declares its options, is given the project that its
-/// one argument names, and does its work through the core; it reports failure by raising `Error`
-/// whose source is the file, the key or the option that it is about.
+/// One command of the command line. A command declares its options and does its work through the
+/// core; it reports failure by raising `Error` whose source is the file, the key or the option that
+/// it is about.
 class Command {
 public:
     virtual ~Command() = default;
@@ -40,16 +39,23 @@ public:
 protected:
     virtual void addOptions(QCommandLineParser& parser) const = 0;
 
-    /// Looks at the options before the project is read. Raises `Error` for those that make no
-    /// sense.
-    virtual void checkOptions(const QCommandLineParser& parser,
-                              const QString& projectPath) const = 0;
-
-    virtual ExitStatus execute(const QCommandLineParser& parser, Project& project,
-                               CliContext& context) = 0;
+    /// Does the work. Raises `Error` for arguments and options that make no sense.
+    virtual ExitStatus execute(const QCommandLineParser& parser, CliContext& context) = 0;
 
     /// A failure of the command line itself, about `name`.
     [[noreturn]] static void refuse(const QString& name, const QString& reason);
 };
+
+/// Runs a step; a failure that names nothing is about `thing`.
+template <typename Step>
+auto about(const QString& thing, Step step) {
+    try {
+        return step();
+    } catch (const Error& error) {
+        if (!error.source().isEmpty())
+            throw;
+        throw Error(error.number(), error.description(), thing, error.offset());
+    }
+}
 
 } // namespace quillford

@@ -3,14 +3,12 @@
 #include "cli/CheckedSections.h"
 #include "cli/CliPrompts.h"
 #include "cli/CliVerification.h"
+#include "cli/OutputPlaces.h"
 #include "core/rules/FigureSize.h"
 #include "draft/compose/HtmlComposer.h"
 #include "draft/compose/IndexComposer.h"
+#include "persistence/project/WorkingCopies.h"
 #include "verification/engine/ErrorReportComposer.h"
-
-#include <QDir>
-#include <QFileInfo>
-#include <QHash>
 
 namespace quillford {
 
@@ -36,17 +34,6 @@ void requireComplete(const Project& project, UserPrompts& prompts) {
         throw Error(SectionNotComplete,
                     QStringLiteral("data is missing from %1; --incomplete exports all the same")
                         .arg(namedSections(incomplete)));
-}
-
-/// Where a file of this name lies, or will lie once it is written: links are followed, those that
-/// lead to no file yet as well.
-QString placeOf(QString path) {
-    constexpr int MostLinks = 40; // the kernel follows no more
-    for (int i = 0; i < MostLinks && QFileInfo(path).isSymLink(); ++i)
-        path = QFileInfo(path).symLinkTarget();
-    const QFileInfo file(path);
-    const QString folder = file.dir().canonicalPath();
-    return folder.isEmpty() ? file.absoluteFilePath() : QDir(folder).filePath(file.fileName());
 }
 
 [[noreturn]] void raiseFailure(const std::optional<Error>& failure, const QString& path) {
@@ -90,11 +77,10 @@ void ExportCommand::addOptions(QCommandLineParser& parser) const {
     parser.addOption(QCommandLineOption(IncompleteOption));
 }
 
-/// An output replaces a file or makes one: it takes no folder's or device's place, nor that of
-/// another output or of the project that it is made from.
 void ExportCommand::checkOptions(const QCommandLineParser& parser,
                                  const QString& projectPath) const {
-    QHash<QString, QString> taken{{placeOf(projectPath), QStringLiteral("the project")}};
+    OutputPlaces places;
+    places.keep(projectPath, QStringLiteral("the project"));
     for (const QString& option : outputOptions()) {
         if (!parser.isSet(option))
             continue;
@@ -103,22 +89,27 @@ void ExportCommand::checkOptions(const QCommandLineParser& parser,
             refuse(name(), QStringLiteral("--%1 is given more than once").arg(option));
         if (path.isEmpty())
             refuse(name(), QStringLiteral("--%1 expects the name of a file").arg(option));
-        if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-            refuse(path, QStringLiteral("--%1 can only write a file").arg(option));
-        if (taken.contains(placeOf(path)))
-            refuse(path, QStringLiteral("--%1 would replace %2").arg(option, taken[placeOf(path)]));
-        taken.insert(placeOf(path), QStringLiteral("the output of --%1").arg(option));
+        places.take(path, QStringLiteral("--") + option);
     }
-    if (taken.size() == 1)
+    if (!places.isTaken())
         refuse(name(), QStringLiteral("expects an output: %1 %2").arg(name(), usage()));
 }
 
-ExitStatus ExportCommand::execute(const QCommandLineParser& parser, Project& project,
-                                  CliContext& context) {
+/// The pictures of a project file become working copies, as when the wizard opens it; those that a
+/// JSON project names are measured where they lie.
+ReadReport ExportCommand::read(const QString& path, Project& project, CliContext& context) {
+    WorkingCopies copies(project.fields, context.folders, context.pictures);
+    ReadReport report = readProject(path, project, copies);
+    if (report.version.isEmpty())
+        measureFigures(project.fields, context.pictures);
+    return report;
+}
+
+ExitStatus ExportCommand::executeOn(const QCommandLineParser& parser, Project& project,
+                                    const ReadReport&, CliContext& context) {
     CliPrompts prompts(context.errors);
     if (!parser.isSet(IncompleteOption))
         requireComplete(project, prompts);
-    measureFigures(project.fields, context.pictures);
     if (parser.isSet(HtmlOption))
         exportHtml(project, parser.value(HtmlOption), context, prompts);
     if (parser.isSet(IndexOption))

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "cli/Command.h"
+#include "cli/ProjectCommand.h"
 
 namespace quillford {
 
 /// Writes the Final Draft and what belongs to it into files.
-class ExportCommand final : public Command {
+class ExportCommand final : public ProjectCommand {
 public:
     [[nodiscard]] QString name() const override { return QStringLiteral("export"); }
 
@@ -24,8 +24,9 @@ public:
 protected:
     void addOptions(QCommandLineParser& parser) const override;
     void checkOptions(const QCommandLineParser& parser, const QString& projectPath) const override;
-    ExitStatus execute(const QCommandLineParser& parser, Project& project,
-                       CliContext& context) override;
+    ReadReport read(const QString& path, Project& project, CliContext& context) override;
+    ExitStatus executeOn(const QCommandLineParser& parser, Project& project,
+                         const ReadReport& report, CliContext& context) override;
 };
 
 } // namespace quillford

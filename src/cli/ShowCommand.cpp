@@ -8,8 +8,15 @@ void ShowCommand::addOptions(QCommandLineParser&) const {}
 
 void ShowCommand::checkOptions(const QCommandLineParser&, const QString&) const {}
 
-ExitStatus ShowCommand::execute(const QCommandLineParser&, Project& project, CliContext& context) {
-    context.print(writeProjectJson(project));
+ReadReport ShowCommand::read(const QString& path, Project& project, CliContext&) {
+    return readProject(path, project, pictures_);
+}
+
+ExitStatus ShowCommand::executeOn(const QCommandLineParser&, Project& project,
+                                  const ReadReport& report, CliContext& context) {
+    const bool isProjectFile = !report.version.isEmpty();
+    context.print(isProjectFile ? writeProjectJson(project, report.version, pictures_)
+                                : writeProjectJson(project));
     return ExitStatus::Done;
 }
 

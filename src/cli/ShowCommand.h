@@ -1,11 +1,12 @@
 #pragma once
 
-#include "cli/Command.h"
+#include "cli/ProjectCommand.h"
+#include "persistence/project/PictureList.h"
 
 namespace quillford {
 
 /// Prints a project in its JSON form.
-class ShowCommand final : public Command {
+class ShowCommand final : public ProjectCommand {
 public:
     [[nodiscard]] QString name() const override { return QStringLiteral("show"); }
 
@@ -18,8 +19,12 @@ public:
 protected:
     void addOptions(QCommandLineParser& parser) const override;
     void checkOptions(const QCommandLineParser& parser, const QString& projectPath) const override;
-    ExitStatus execute(const QCommandLineParser& parser, Project& project,
-                       CliContext& context) override;
+    ReadReport read(const QString& path, Project& project, CliContext& context) override;
+    ExitStatus executeOn(const QCommandLineParser& parser, Project& project,
+                         const ReadReport& report, CliContext& context) override;
+
+private:
+    PictureList pictures_;
 };
 
 } // namespace quillford

@@ -117,7 +117,8 @@ TEST_F(ExportCommandTest, draws_a_picture_that_cannot_be_read_without_a_size) {
 }
 
 TEST_F(ExportCommandTest, expects_a_project_and_an_output) {
-    const QString usage = u"export PROJECT [--html FILE] [--index FILE] [--incomplete]"_s;
+    const QString usage =
+        u"export PROJECT [--html FILE] [--index FILE] [--report FILE] [--incomplete]"_s;
     expectFailure({Export}, u"export: expects one project: "_s + usage);
     expectFailure({Export, complete, complete, Html, page},
                   u"export: expects one project: "_s + usage);

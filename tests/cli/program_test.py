@@ -226,7 +226,7 @@ class ProgramTest(unittest.TestCase):
         shutil.copy(CLIP, secret)
         secret.chmod(0)
         self.assertEqual(self.expect_failure("show", "secret.json", **user),
-                         "secret.json: Permission denied")
+                         "secret.json: Access is denied.")
 
     def test_a_folder_without_the_right_to_write_keeps_its_files(self):
         user = self.as_user()

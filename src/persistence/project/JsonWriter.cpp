@@ -22,13 +22,36 @@ QString fieldValue(const ProjectFields& fields, const FieldRow& row) {
     return jsonList(values);
 }
 
-} // namespace
-
-QByteArray writeProjectJson(const Project& project) {
+QStringList projectEntries(const Project& project) {
     QStringList entries;
     for (const FieldRow& row : fieldTable())
         entries.append(jsonEntry(row.name, fieldValue(project.fields, row)));
     entries.append(jsonEntry(u"verifyPassed", jsonFlag(project.state.verifyPassed)));
+    return entries;
+}
+
+QString pictureObject(const PictureList::Picture& picture) {
+    return QStringLiteral("{\"index\": ") + QString::number(picture.figure) +
+           QStringLiteral(", \"path\": ") + jsonString(picture.path) +
+           QStringLiteral(", \"size\": ") + QString::number(picture.size) +
+           QStringLiteral(", \"sha256\": ") +
+           jsonString(QString::fromLatin1(picture.sha256.toHex())) + u'}';
+}
+
+} // namespace
+
+QByteArray writeProjectJson(const Project& project) {
+    return jsonDocument(projectEntries(project));
+}
+
+QByteArray writeProjectJson(const Project& project, const QString& version,
+                            const PictureList& pictures) {
+    QStringList objects;
+    for (const PictureList::Picture& picture : pictures.pictures())
+        objects.append(pictureObject(picture));
+    QStringList entries = projectEntries(project);
+    entries.append(jsonEntry(u"Section Version", jsonString(version)));
+    entries.append(jsonEntry(u"Pictures", jsonList(objects)));
     return jsonDocument(entries);
 }
 

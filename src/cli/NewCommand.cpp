@@ -1,0 +1,76 @@
+#include "cli/NewCommand.h"
+
+#include "base/Files.h"
+#include "cli/CliPrompts.h"
+#include "cli/OutputPlaces.h"
+#include "core/fields/Project.h"
+#include "persistence/project/JsonReader.h"
+#include "persistence/project/ProjectWriter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace quillford {
+
+namespace {
+
+constexpr int EmptyPicture = 9; // as a save of such a picture fails
+
+[[noreturn]] void raiseSystemError(const QString& path) {
+    throw Error(errno, QString::fromLocal8Bit(std::strerror(errno)), path);
+}
+
+/// A picture that is not there, or has no bytes, is told by its own name before anything is made.
+void requirePictures(const ProjectFields& fields) {
+    for (int i = 0; i < fields.txtAttachFig.count(); ++i) {
+        if (!fields.txtAttachFig(i).isFilled())
+            continue;
+        QFile picture(fields.txtAttachFig(i).text());
+        if (!picture.open(QIODevice::ReadOnly))
+            raiseFileError(picture);
+        if (picture.size() == 0)
+            throw Error(EmptyPicture, QStringLiteral("the picture holds no bytes"),
+                        picture.fileName());
+    }
+}
+
+/// Writes the project beside its place, which it takes when it is whole.
+void writeWhole(const Project& project, const QString& path, UserPrompts& prompts) {
+    const QTemporaryDir beside(QFileInfo(path).absolutePath() + QStringLiteral("/.new-XXXXXX"));
+    if (!beside.isValid())
+        throw Error(ENOENT, beside.errorString(), path);
+    const QString made = beside.filePath(QStringLiteral("project.ivd"));
+    ProjectWriter(project, prompts).write(made, ProjectWriter::Durability::OnDisk);
+    if (std::rename(QFile::encodeName(made).constData(), QFile::encodeName(path).constData()) != 0)
+        raiseSystemError(path);
+}
+
+} // namespace
+
+void NewCommand::addOptions(QCommandLineParser&) const {}
+
+ExitStatus NewCommand::execute(const QCommandLineParser& parser, CliContext& context) {
+    const QStringList files = parser.positionalArguments();
+    if (files.size() != 2 || files.contains(QString()))
+        refuse(name(), QStringLiteral("expects two files: %1 %2").arg(name(), usage()));
+    const QString& json = files[0];
+    const QString& out = files[1];
+    OutputPlaces places;
+    places.keep(json, QStringLiteral("the fields"));
+    places.take(out, QStringLiteral("new"));
+    Project project;
+    about(json,
+          [&] { readProjectJson(contentOfFile(json), QFileInfo(json).absolutePath(), project); });
+    requirePictures(project.fields);
+    CliPrompts prompts(context.errors);
+    about(out, [&] { writeWhole(project, out, prompts); });
+    return ExitStatus::Done;
+}
+
+} // namespace quillford
