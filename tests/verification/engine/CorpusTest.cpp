@@ -3,6 +3,8 @@
 #include "base/Text.h"
 #include "support/PrintQt.h"
 
+#include <QElapsedTimer>
+
 #include <gtest/gtest.h>
 #include <random>
 
@@ -82,4 +84,33 @@ TEST(Corpus, answers_as_a_plain_search_of_the_upper_case_does) {
     }
     EXPECT_GT(found, 2000);
     EXPECT_LT(found, 18000);
+}
+
+TEST(Corpus, answers_as_a_plain_search_does_where_text_and_needle_repeat_themselves) {
+    std::mt19937 chance(11);
+    int found = 0;
+    for (int round = 0; round < 20000; ++round) {
+        QString all;
+        while (all.size() < 120)
+            all += u"ab"_s.repeated(static_cast<int>(chance() % 12)) + u"a"_s;
+        QString part =
+            all.mid(static_cast<int>(chance() % 80), 10 + static_cast<int>(chance() % 50));
+        if (round % 2 == 0)
+            part[static_cast<int>(chance() % 10)] = u'b';
+        const bool expected = upperCase(all).contains(upperCase(part));
+        ASSERT_EQ(Corpus(all).contains(part), expected) << qPrintable(all + u" / "_s + part);
+        found += expected;
+    }
+    EXPECT_GT(found, 10000);
+    EXPECT_LT(found, 19000);
+}
+
+TEST(Corpus, a_long_needle_in_an_equally_repetitive_text_takes_no_quadratic_time) {
+    const Corpus corpus(u"ab"_s.repeated(500'000));
+    const QString needle = u"ab"_s.repeated(125'000) + u"aa"_s + u"ab"_s.repeated(125'000);
+    QElapsedTimer time;
+    time.start();
+    EXPECT_FALSE(corpus.contains(needle));
+    EXPECT_TRUE(corpus.contains(u"ab"_s.repeated(250'000)));
+    EXPECT_LT(time.elapsed(), 2000) << "comparing the needle at every place takes some 10 s";
 }
