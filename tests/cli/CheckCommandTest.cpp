@@ -113,6 +113,13 @@ TEST_F(CheckCommandTest, what_is_missing_is_listed_with_its_numeral) {
                                                     "  Reference Numerals 13\n"_s);
 }
 
+TEST_F(CheckCommandTest, no_control_character_of_a_name_reaches_the_terminal) {
+    QJsonObject project = completeProject();
+    project[u"txtElementMain"_s] = QJsonArray{u"a\u001b[31m\u009b31m\u007f"_s};
+    EXPECT_EQ(check(project), 1);
+    EXPECT_TRUE(text().endsWith(uR"(  Main Element 10: "a\u001b[31m\u009b31m\u007f")"_s + u'\n'));
+}
+
 TEST_F(CheckCommandTest, an_incomplete_section_is_a_finding_of_its_own) {
     QJsonObject project = completeProject();
     project[u"txtPurpose"_s] = u""_s;

@@ -10,7 +10,7 @@ bool needsUnicodeEscape(QStringView text, qsizetype i) {
         return i + 1 == text.size() || !text[i + 1].isLowSurrogate();
     if (unit.isLowSurrogate())
         return i == 0 || !text[i - 1].isHighSurrogate();
-    return unit < u' ' || unit == u'\x7f';
+    return unit.category() == QChar::Other_Control;
 }
 
 void appendUnit(QString& json, QStringView text, qsizetype i) {

@@ -10,7 +10,8 @@
 namespace quillford {
 
 /// The text in quotation marks. Half a surrogate pair is written as an escape, so that every text
-/// can be read back as it was.
+/// can be read back as it was; so is every control character, those from U+0080 to U+009F too,
+/// which some terminals obey.
 [[nodiscard]] QString jsonString(QStringView text);
 
 /// A list of values that are JSON already.

@@ -69,7 +69,8 @@ private:
                                         u"\u2028"_s,
                                         u"\uFFFF"_s,
                                         u"</b>"_s,
-                                        u"\u007F"_s};
+                                        u"\u007F"_s,
+                                        u"\u009B"_s};
         QString text;
         for (int i = below(12); i > 0; --i)
             text += pieces.at(below(static_cast<int>(pieces.size())));

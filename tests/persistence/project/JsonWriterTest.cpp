@@ -92,6 +92,11 @@ TEST(JsonWriter, escapes_what_json_forbids_in_a_text) {
     EXPECT_EQ(purposeLine(QString(QChar(0))), R"(  "txtPurpose": "\u0000",)");
 }
 
+TEST(JsonWriter, escapes_the_control_characters_that_json_allows_as_well) {
+    EXPECT_EQ(purposeLine(u"\u0080\u009b1m\u009f\u00a0"_s),
+              "  \"txtPurpose\": \"\\u0080\\u009b1m\\u009f\xC2\xA0\",");
+}
+
 TEST(JsonWriter, leaves_letters_of_every_script_as_they_are) {
     EXPECT_EQ(purposeLine(u"caf\u00E9 \u4E2D \U0001D11E / <b> %1"_s),
               "  \"txtPurpose\": \"caf\xC3\xA9 \xE4\xB8\xAD \xF0\x9D\x84\x9E / <b> %1\",");
