@@ -30,23 +30,17 @@ quint32 sectorsOf(ByteStore& store, quint32 sectorSize) {
 } // namespace
 
 Loader::Loader(Volume& volume)
-    : volume_(volume),
-      sectors_(sectorsOf(volume.file.store(), volume.file.sectorSize())),
-      claimed_(sectors_) {}
+    : volume_(volume), sectors_(sectorsOf(volume.file.store(), volume.file.sectorSize())) {}
 
 void Loader::load() {
     loadFat();
+    claimCovered();
     loadDirectory();
     loadMiniFat();
     loadStorages();
-    for (SectorId sector = 0; sector < std::min(sectors_, volume_.fat.size()); ++sector) {
+    for (SectorId sector = 0; sector < claimed_.size(); ++sector) {
         if (claimed_[sector])
             volume_.fat.setUsed(sector);
-    }
-    // A sector of the table that the table itself does not cover could not be kept from others.
-    for (SectorId sector = volume_.fat.size(); sector < sectors_; ++sector) {
-        if (claimed_[sector])
-            noteDamage(volume_.file.offsetOf(sector));
     }
 }
 
@@ -61,8 +55,21 @@ void Loader::noteDamagedEntry(EntryId id) {
     noteDamage(volume_.file.offsetOf(sector) + quint64{id % inSector} * EntrySize);
 }
 
+bool Loader::claimForFat(SectorId sector) {
+    return sector < sectors_ && ofFat_.insert(sector).second;
+}
+
+void Loader::claimCovered() {
+    claimed_.resize(std::min(sectors_, volume_.fat.size()));
+    for (const SectorId sector : ofFat_) {
+        // A sector of the table that the table itself does not cover could not be kept from others.
+        if (!claim(sector))
+            noteDamage(volume_.file.offsetOf(sector));
+    }
+}
+
 bool Loader::claim(SectorId sector) {
-    if (sector >= sectors_ || claimed_[sector])
+    if (sector >= claimed_.size() || claimed_[sector])
         return false;
     claimed_[sector] = true;
     return true;
@@ -75,7 +82,7 @@ std::vector<std::byte> Loader::readSector(SectorId sector) {
 }
 
 bool Loader::loadFatSector(SectorId sector) {
-    if (!claim(sector))
+    if (!claimForFat(sector))
         return false;
     volume_.fat.addPlace(sector, readSector(sector));
     return true;
@@ -100,7 +107,7 @@ void Loader::loadFatFromDifat() {
     quint64 linkPlace = header::FirstDifatSector;
     SectorId sector = volume_.header.field(header::FirstDifatSector);
     while (missing > 0) {
-        if (!claim(sector)) {
+        if (!claimForFat(sector)) {
             noteDamage(linkPlace);
             return;
         }
@@ -120,10 +127,9 @@ void Loader::loadFatFromDifat() {
 
 Chain Loader::claimChain(SectorId first) {
     Chain chain;
-    const quint32 limit = std::min(sectors_, volume_.fat.size());
     SectorId sector = first;
     while (sector != EndOfChain) {
-        if (sector >= limit || !claim(sector)) {
+        if (!claim(sector)) {
             noteDamage(chain.isEmpty() ? 0 : volume_.file.offsetOf(chain.last()));
             break;
         }

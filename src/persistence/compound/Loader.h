@@ -2,6 +2,9 @@
 
 #include "persistence/compound/Volume.h"
 
+#include <set>
+#include <vector>
+
 namespace quillford::compound {
 
 /// Fills a `Volume` from its file: see `loadVolume`.
@@ -23,7 +26,14 @@ private:
     void loadElement(EntryId id);
     void loadStream(EntryId id);
 
-    /// True when `sector` lies in the file and no chain has taken it yet; it is taken now.
+    /// The same as `claim` for a sector of the FAT or the DIFAT, before the FAT is known.
+    [[nodiscard]] bool claimForFat(SectorId sector);
+
+    /// Takes the sectors of the FAT and the DIFAT among those that the FAT covers.
+    void claimCovered();
+
+    /// True when `sector` lies in the file and is covered by the FAT, and no chain has taken it
+    /// yet; it is taken now.
     [[nodiscard]] bool claim(SectorId sector);
 
     /// The chain that begins at `first`, up to its end or to what cannot be right (noted then).
@@ -37,6 +47,8 @@ private:
     Volume& volume_;
     quint32 sectors_; ///< the number of sectors in the file, the last perhaps cut off
     quint32 miniSectors_ = 0;
+    std::set<SectorId> ofFat_;
+    /// By sector, as far as the FAT covers them: a file may be far longer than what it tells of.
     std::vector<bool> claimed_;
     std::vector<EntryId> storages_; ///< still to be loaded
 };

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QSet>
 
+#include <chrono>
+
 using namespace quillford;
 using namespace Qt::Literals::StringLiterals;
 
@@ -38,7 +40,38 @@ qint64 changeOf(const MemoryCompound& compound) {
     });
 }
 
+/// The good file with a hole of 2 TB behind it, as a sparse file has it.
+class LongStore final : public ByteStore {
+public:
+    [[nodiscard]] quint64 size() override { return quint64{2} << 40; }
+
+    [[nodiscard]] std::size_t read(quint64 offset, MutableBytes into) override {
+        const std::size_t count = good_.read(offset, into);
+        std::fill(into.begin() + static_cast<std::ptrdiff_t>(count), into.end(), std::byte{0});
+        return into.size();
+    }
+
+    void write(quint64 offset, std::span<const Bytes> parts) override {
+        good_.write(offset, parts);
+    }
+
+    void truncate(quint64 size) override { good_.truncate(size); }
+
+    void sync() override {}
+
+private:
+    MemoryByteStore good_{goodFile().file};
+};
+
 } // namespace
+
+TEST(Loader, takes_no_time_for_a_hole_behind_the_last_sector_of_the_table) {
+    const auto start = std::chrono::steady_clock::now();
+    Storage root = Storage::openRoot(std::make_unique<LongStore>(), u"long"_s);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+    Storage good = goodFile().open();
+    EXPECT_TRUE(readStream(root, u"small"_s) == readStream(good, u"small"_s));
+}
 
 TEST(Loader, refuses_to_change_a_damaged_file_and_leaves_it_as_it_is) {
     const QSet<qint64> told = {0, 58, 0x800300FB, 0x80030109};
