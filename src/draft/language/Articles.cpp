@@ -15,15 +15,10 @@ namespace {
 
 constexpr QStringView Vowels = u"AEIOU";
 
+/// As the list of citizenships spells them.
 constexpr std::array<QStringView, 6> CountriesWithArticle{
-    u"united states", u"united arab emirates", u"czech republic",
-    u"netherlands",   u"philippines",          u"syrian arab republic"};
-
-bool needsArticle(QStringView country) {
-    const QString name = lowerCase(country);
-    return std::find(CountriesWithArticle.begin(), CountriesWithArticle.end(), name) !=
-           CountriesWithArticle.end();
-}
+    u"United States", u"United Arab Emirates", u"Czech Republic",
+    u"Netherlands",   u"Philippines",          u"Syrian Arab Republic"};
 
 } // namespace
 
@@ -35,7 +30,11 @@ QString isVowelInitial(QStringView text) {
 
 QString citizenshipText(QStringView country) {
     const QStringView name = trimBlanks(country);
-    return (needsArticle(name) ? u"the "_s : QString()) % name;
+    const QString lowered = lowerCase(name);
+    const auto listed =
+        std::find_if(CountriesWithArticle.begin(), CountriesWithArticle.end(),
+                     [&lowered](QStringView row) { return lowerCase(row) == lowered; });
+    return listed == CountriesWithArticle.end() ? name.toString() : u"the " % *listed;
 }
 
 } // namespace quillford

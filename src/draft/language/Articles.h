@@ -12,8 +12,8 @@ namespace quillford {
 /// an empty text. Only that first character is looked at ("a hour", "an unit").
 [[nodiscard]] QString isVowelInitial(QStringView text);
 
-/// The country without its outer blanks and in the case in which it was typed, with "the " in front
-/// when it is one of the six countries whose name needs it.
+/// The country without its outer blanks. One of the six whose name needs it has "the " in front and
+/// is spelt as in the list of citizenships, however it was typed; any other stands as typed.
 [[nodiscard]] QString citizenshipText(QStringView country);
 
 } // namespace quillford

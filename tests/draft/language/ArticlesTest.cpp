@@ -48,9 +48,14 @@ TEST(Articles, six_countries_take_the) {
         EXPECT_EQ(citizenshipText(country), u"the "_s + country);
 }
 
-TEST(Articles, a_country_keeps_the_case_in_which_it_was_typed) {
-    EXPECT_EQ(citizenshipText(u"UNITED states"), u"the UNITED states"_s);
+TEST(Articles, one_of_the_six_countries_is_spelt_as_in_the_list) {
+    EXPECT_EQ(citizenshipText(u"UNITED states"), u"the United States"_s);
+    EXPECT_EQ(citizenshipText(u" syrian arab republic "), u"the Syrian Arab Republic"_s);
+}
+
+TEST(Articles, any_other_country_keeps_the_case_in_which_it_was_typed) {
     EXPECT_EQ(citizenshipText(u"canada"), u"canada"_s);
+    EXPECT_EQ(citizenshipText(u"SOUTH africa"), u"SOUTH africa"_s);
 }
 
 TEST(Articles, a_country_loses_its_outer_blanks_alone) {
