@@ -108,6 +108,11 @@ ReadReport ExportCommand::read(const QString& path, Project& project, CliContext
 ExitStatus ExportCommand::executeOn(const QCommandLineParser& parser, Project& project,
                                     const ReadReport&, CliContext& context) {
     CliPrompts prompts(context.errors);
+    OutputPlaces places;
+    places.keepPictures(project.fields);
+    for (const QString& option : outputOptions())
+        if (parser.isSet(option))
+            places.take(parser.value(option), QStringLiteral("--") + option);
     if (!parser.isSet(IncompleteOption))
         requireComplete(project, prompts);
     if (parser.isSet(HtmlOption))

@@ -68,6 +68,9 @@ ExitStatus NewCommand::execute(const QCommandLineParser& parser, CliContext& con
     about(json,
           [&] { readProjectJson(contentOfFile(json), QFileInfo(json).absolutePath(), project); });
     requirePictures(project.fields);
+    OutputPlaces pictures;
+    pictures.keepPictures(project.fields);
+    pictures.take(out, QStringLiteral("new"));
     CliPrompts prompts(context.errors);
     about(out, [&] { writeWhole(project, out, prompts); });
     return ExitStatus::Done;

@@ -1,6 +1,7 @@
 #include "cli/OutputPlaces.h"
 
 #include "base/Error.h"
+#include "core/rules/FigureSize.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -26,6 +27,14 @@ QString placeOf(QString path) {
 
 void OutputPlaces::keep(const QString& path, const QString& owner) {
     owners_.insert(placeOf(path), owner);
+}
+
+void OutputPlaces::keepPictures(const ProjectFields& fields) {
+    for (int i = 0; i < fields.panelCount(FieldGroup::Figures); ++i) {
+        const QString picture = figurePath(fields, i);
+        if (!picture.isEmpty())
+            keep(picture, QStringLiteral("the picture of figure %1").arg(i + 1));
+    }
 }
 
 void OutputPlaces::take(const QString& path, const QString& output) {

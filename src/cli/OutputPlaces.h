@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/fields/ProjectFields.h"
+
 #include <QHash>
 #include <QString>
 
@@ -11,6 +13,9 @@ class OutputPlaces {
 public:
     /// Keeps the place of the file `path` for `owner`, "the project" for instance.
     void keep(const QString& path, const QString& owner);
+
+    /// Keeps the places of the pictures that a draft of the project shows.
+    void keepPictures(const ProjectFields& fields);
 
     /// Takes the place of an output. Raises `Error` naming the file when it may not be written.
     ///

@@ -151,6 +151,21 @@ TEST_F(ExportCommandTest, replaces_neither_the_project_nor_another_output) {
     EXPECT_EQ(files(), QStringList({u"project.json"_s}));
 }
 
+TEST_F(ExportCommandTest, replaces_no_picture_of_the_project) {
+    const QString picture = place(u"fig1.png"_s);
+    const QString link = place(u"fig1.lnk"_s);
+    writeFile(picture);
+    ASSERT_TRUE(QFile::link(picture, link));
+    const QByteArray before = contentOf(picture);
+    const QString path = project(R"({"txtAttachFig": ["fig1.png"]})");
+    expectFailure({Export, path, Incomplete, Html, page, Index, picture},
+                  picture + u": --index would replace the picture of figure 1"_s);
+    expectFailure({Export, path, Incomplete, Html, link},
+                  link + u": --html would replace the picture of figure 1"_s);
+    EXPECT_EQ(contentOf(picture), before);
+    EXPECT_FALSE(QFile::exists(page));
+}
+
 TEST_F(ExportCommandTest, sees_through_links_what_an_output_would_replace) {
     const QString toProject = place(u"project.lnk"_s);
     const QString toNothing = place(u"nothing.lnk"_s);
