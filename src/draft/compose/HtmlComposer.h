@@ -23,9 +23,10 @@ public:
     /// a body from which nothing can be selected or copied, and nothing is written. With an empty
     /// text the page is written to `path`, in a plain body.
     ///
-    /// The fields are expected to be filled as their sections require; whatever they hold, the page
-    /// is composed. Any failure ends the composition at once: the answer is false, `failure()`
-    /// tells the reason, and no file is written. A template that does not load is told in a box.
+    /// The fields are expected to be filled as their sections require; empty ones are composed as
+    /// they are. Any failure ends the composition at once, also a Main Element without a panel of
+    /// descriptions or a page that would be too long: the answer is false, `failure()` tells the
+    /// reason, and no file is written. A template that does not load is told in a box.
     bool ExportToHTML(const QString& path, QString& html);
 
     /// What ended the last composition, or nothing.
