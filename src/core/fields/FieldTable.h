@@ -36,8 +36,7 @@ inline constexpr FieldGroup RepeatingGroups[] = {FieldGroup::Inventors,   FieldG
                                                  FieldGroup::SubElements, FieldGroup::Descriptions};
 
 /// Text and MultiLine are typed into, the latter with a vertical scroll bar or without; Combo takes
-/// typing and a choice, List a choice only; Check is "0" or "1" (a third state, "2", comes from
-/// files that another program wrote).
+/// typing and a choice, List a choice only; Check is "0" or "1".
 enum class FieldKind { Text, MultiLine, MultiLineNoBar, Combo, List, Check };
 
 /// Whether the field's section needs it filled. ByList: its list has no empty row.
