@@ -6,7 +6,9 @@
 #include <QFile>
 #include <QStringList>
 
+#include <csignal>
 #include <cstdio>
+#include <new>
 
 using namespace quillford;
 
@@ -31,7 +33,9 @@ int createProps(const QString& fileName) {
     Storage storage = createOrOpen(fileName);
     const bool made = CreatePropertySets(storage, true);
     storage.Commit(0);
-    return made ? Done : Failure;
+    if (!made)
+        throw Error(Failure, QStringLiteral("The property sets could not be made."), fileName);
+    return Done;
 }
 
 int getProps(const QString& fileName) {
@@ -74,6 +78,8 @@ int run(const QStringList& words) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // A file that reaches the limit of its size is a failure to be told and not the program's end.
+    std::signal(SIGXFSZ, SIG_IGN);
     QStringList words;
     for (int i = 1; i < argc; ++i)
         words.append(QFile::decodeName(argv[i]));
@@ -84,6 +90,9 @@ int main(int argc, char** argv) {
                      qPrintable(error.source().isEmpty() ? words.value(1) : error.source()),
                      error.what(), static_cast<long long>(error.number()),
                      static_cast<unsigned long long>(error.number()));
+        return Failure;
+    } catch (const std::bad_alloc&) {
+        std::fprintf(stderr, "storage_probe: there is not enough memory\n");
         return Failure;
     }
 }
