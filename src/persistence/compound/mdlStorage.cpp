@@ -7,6 +7,7 @@
 #include "persistence/compound/StorageModes.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -84,6 +85,10 @@ bool CreatePropertySets(Storage& storage, bool ansi) {
 }
 
 bool IsStorageFile(const QString& fileName) {
+    // A pipe would make the program wait for somebody who writes into it.
+    const QFileInfo info(fileName);
+    if (info.exists() && !info.isFile())
+        throw storageError(StorageCode::AccessDenied, fileName);
     QFile file(fileName);
     errno = 0;
     if (!file.open(QIODevice::ReadOnly))

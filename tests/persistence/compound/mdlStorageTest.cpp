@@ -160,6 +160,12 @@ TEST_F(StorageFile, that_is_a_folder_a_pipe_or_a_device_is_refused) {
     EXPECT_EQ(errorOf([&] { (void)OpenStorageFile(u"/dev/zero"_s); }), 0x80030005);
 }
 
+TEST_F(StorageFile, is_not_looked_for_in_a_folder_a_pipe_or_a_device) {
+    ASSERT_EQ(mkfifo(QFile::encodeName(path(u"pipe"_s)).constData(), 0600), 0);
+    for (const QString& name : {folder_.path(), path(u"pipe"_s), u"/dev/zero"_s})
+        EXPECT_EQ(errorOf([&] { (void)IsStorageFile(name); }), 0x80030005) << name.toStdString();
+}
+
 TEST_F(StorageFile, that_is_read_only_is_refused) {
     (void)create();
     ASSERT_EQ(chmod(QFile::encodeName(path()).constData(), 0444), 0);
