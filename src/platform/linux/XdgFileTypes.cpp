@@ -1,6 +1,6 @@
 #include "platform/linux/XdgFileTypes.h"
 
-#include "base/Error.h"
+#include "base/Files.h"
 #include "base/Text.h"
 #include "platform/linux/DesktopEntry.h"
 
@@ -10,8 +10,6 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 #include <QXmlStreamWriter>
-
-#include <cerrno>
 
 namespace quillford {
 
@@ -37,10 +35,12 @@ QByteArray mimePackage(const FileType& type) {
 void writeWhole(const QString& path, const QByteArray& bytes) {
     QDir().mkpath(QFileInfo(path).path());
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw Error(
-            EIO,
-            QStringLiteral("The file \"%1\" cannot be written: %2").arg(path, file.errorString()));
+    // With a buffer the file would be put in its place even where the disk had no room for it.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        raiseFileError(file, path);
+    writeAll(file, bytes, path);
+    if (!file.commit())
+        raiseFileError(file, path);
 }
 
 } // namespace

@@ -3,9 +3,11 @@
 #include "base/Error.h"
 #include "platform/linux/LinuxFolders.h"
 #include "support/Files.h"
+#include "support/FullDisk.h"
 #include "support/PrintQt.h"
 #include "support/ScopedEnvironment.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QStandardPaths>
@@ -102,6 +104,16 @@ TEST_F(XdgFileTypesTest, a_data_folder_that_cannot_be_written_is_an_error) {
     writeFile(folder.filePath(u"user data"_s), "precious");
     EXPECT_THROW(fileTypes.makeKnown(type), Error);
     EXPECT_EQ(contentOf(folder.filePath(u"user data"_s)), "precious");
+}
+
+TEST_F(XdgFileTypesTest, a_full_disk_leaves_no_half_written_file) {
+    {
+        const FullDisk disk(100);
+        EXPECT_THROW(fileTypes.makeKnown(type), Error);
+    }
+    EXPECT_EQ(QDir(user(u"mime/packages"_s)).entryList(QDir::Files), QStringList());
+    fileTypes.makeKnown(type);
+    EXPECT_TRUE(contentOf(mime).endsWith("</mime-info>\n"));
 }
 
 TEST_F(XdgFileTypesTest, each_tool_is_run_over_its_folder_and_only_after_writing) {
