@@ -8,7 +8,8 @@
 namespace quillford {
 
 /// Text as the toolkit draws it. It can be made once a QGuiApplication exists and must not outlive
-/// that.
+/// that. Where the letters of a script join, one may lose a pixel or two of its width to the letter
+/// that follows; a line of such a text may end one character early or late.
 class QtTextMeasure final : public TextMeasure {
 public:
     QtTextMeasure();
