@@ -70,10 +70,11 @@ ReadReport ProjectFileReader::read(const QString& path) {
     return std::move(report_);
 }
 
-/// Versions are compared as single-precision numbers: "3.10" is "3.1".
+/// Versions are compared as single-precision numbers: "3.10" is "3.1". A text like "nan" compares
+/// false with every number and is refused with them.
 bool ProjectFileReader::hasReadableVersion() {
     const auto version = versionNumber(report_.version);
-    return version && !(*versionNumber(ProjectFileFormat::Version) < *version);
+    return version && *version <= *versionNumber(ProjectFileFormat::Version);
 }
 
 void ProjectFileReader::readSection1() {

@@ -103,9 +103,12 @@ TEST_F(ProjectFileReader_, refuses_a_higher_version_and_touches_no_field) {
 
 TEST_F(ProjectFileReader_, refuses_a_version_that_is_no_number) {
     write(Project());
-    writeVersion(u"new"_s);
     Project project;
-    EXPECT_EQ(read(project).outcome, Outcome::HigherVersion);
+    for (const QString& version : {u"new"_s, u"nan"_s, u"inf"_s, u" "_s, u"3,1"_s, u"3.1b"_s}) {
+        change([](Storage& root) { root.DestroyElement(u"Section Version"_s); });
+        writeVersion(version);
+        EXPECT_EQ(read(project).outcome, Outcome::HigherVersion) << qPrintable(version);
+    }
 }
 
 TEST_F(ProjectFileReader_, compares_versions_as_numbers) {
