@@ -1,84 +1,14 @@
-#include "core/fields/FieldLists.h"
 #include "persistence/project/JsonReader.h"
 #include "persistence/project/JsonWriter.h"
-
-#include <QStringList>
+#include "support/ProjectMaker.h"
 
 #include <gtest/gtest.h>
-#include <random>
 #include <string>
 
 using namespace quillford;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// Makes projects by chance; the same seed makes the same project.
-class ProjectMaker {
-public:
-    explicit ProjectMaker(unsigned seed) : chance_(seed) {}
-
-    void fill(Project& project) {
-        project.state.verifyPassed = below(2) == 1;
-        for (const FieldRow& row : fieldTable())
-            for (int i = 0; i < shown(project.fields, row); ++i)
-                project.fields.at(row.id, i).loadText(text(row));
-        for (const FieldGroup group : RepeatingGroups)
-            project.fields.setPanelCount(group,
-                                         project.fields.at(groupLimits(group).count).number());
-    }
-
-private:
-    int below(int bound) { return std::uniform_int_distribution<int>(0, bound - 1)(chance_); }
-
-    /// The table tells a count before what it counts, so that the panels can be made on the way.
-    static int shown(ProjectFields& fields, const FieldRow& row) {
-        if (row.group == FieldGroup::Single)
-            return 1;
-        const int count = fields.at(groupLimits(row.group).count).number();
-        if (fields.panelCount(row.group) != count)
-            fields.setPanelCount(row.group, count);
-        return count;
-    }
-
-    QString text(const FieldRow& row) {
-        if (row.kind == FieldKind::Check)
-            return QString::number(below(2));
-        if (row.kind == FieldKind::List)
-            return listRows(row.list).at(below(static_cast<int>(listRows(row.list).size())));
-        const QString typed = anyText();
-        return row.id == FieldId::txtAttachFig ? u"/figures/"_s + typed : typed;
-    }
-
-    QString anyText() {
-        static const QStringList pieces{u"easel"_s,
-                                        u" "_s,
-                                        u"\r\n"_s,
-                                        u"\n"_s,
-                                        u"\t"_s,
-                                        u"\""_s,
-                                        u"\\"_s,
-                                        u"\u00E9"_s,
-                                        u"%1"_s,
-                                        u"\U0001F58A"_s,
-                                        u"\u0001"_s,
-                                        QString(QChar(0xD834)),
-                                        QString(QChar(0xDD1E)),
-                                        QString(QChar(0)),
-                                        u"\uFEFF"_s,
-                                        u"\u2028"_s,
-                                        u"\uFFFF"_s,
-                                        u"</b>"_s,
-                                        u"\u007F"_s,
-                                        u"\u009B"_s};
-        QString text;
-        for (int i = below(12); i > 0; --i)
-            text += pieces.at(below(static_cast<int>(pieces.size())));
-        return text;
-    }
-
-    std::mt19937 chance_;
-};
 
 /// The text's code units, so that a difference can be read.
 std::string escaped(const Field& field) {
