@@ -44,6 +44,12 @@ void ProjectWriter::write(const QString& path, Durability durability) {
     bool overwrite = false;
     constexpr bool ansi = true;
     Storage root = CreateStorageFile(path, createProps, ansi, overwrite);
+    write(root);
+    if (durability == Durability::OnDisk)
+        root.Sync();
+}
+
+void ProjectWriter::write(Storage& root) {
     writeVersion(root);
     writeSection1(root);
     writeSection2(root);
@@ -56,8 +62,6 @@ void ProjectWriter::write(const QString& path, Durability durability) {
     writeVerify(root);
     writePictures(root);
     root.Commit(0);
-    if (durability == Durability::OnDisk)
-        root.Sync();
 }
 
 void ProjectWriter::writeVersion(Storage& root) const {
