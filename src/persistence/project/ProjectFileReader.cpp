@@ -45,6 +45,15 @@ ProjectFileReader::ProjectFileReader(Project& project, PictureReceiver& pictures
 
 ReadReport ProjectFileReader::read(const QString& path) {
     resumeNext_([&] { root_ = OpenStorageFile(path); });
+    return readRoot();
+}
+
+ReadReport ProjectFileReader::read(Storage root) {
+    root_ = std::move(root);
+    return readRoot();
+}
+
+ReadReport ProjectFileReader::readRoot() {
     openStream(ProjectFileFormat::VersionStream);
     resumeNext_([&] { report_.version = readText(); });
     if (report_.version.isEmpty()) {

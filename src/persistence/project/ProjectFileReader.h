@@ -44,7 +44,11 @@ public:
     /// each count as it is read. The changed marks stay as they are. Raises nothing.
     ReadReport read(const QString& path);
 
+    /// Reads the open file whose root is given, and lets go of it; otherwise as the other.
+    ReadReport read(Storage root);
+
 private:
+    [[nodiscard]] ReadReport readRoot();
     [[nodiscard]] bool hasReadableVersion();
     void readSection1();
     void readSection2();
