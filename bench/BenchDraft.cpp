@@ -37,8 +37,4 @@ QString BenchDraft::OwnFolder::temporaryFolder() {
     return folder_.path();
 }
 
-void BenchDraft::NoBoxes::showMessage(Icon, const QString& title, const QString& text) {
-    throw Error(0, text, title);
-}
-
 } // namespace quillford

@@ -2,7 +2,7 @@
 
 #include "core/fields/Project.h"
 #include "platform/Folders.h"
-#include "platform/UserPrompts.h"
+#include "support/UnattendedPrompts.h"
 
 #include <QString>
 #include <QTemporaryDir>
@@ -31,17 +31,11 @@ private:
         QTemporaryDir folder_;
     };
 
-    class NoBoxes final : public UserPrompts {
-    public:
-        /// Raises the text as an `Error`: nobody sits there to read it.
-        void showMessage(Icon icon, const QString& title, const QString& text) override;
-    };
-
     void compose(const QString& path, QString& html);
 
     Project project_;
     OwnFolder folder_;
-    NoBoxes prompts_;
+    UnattendedPrompts prompts_;
 };
 
 } // namespace quillford
