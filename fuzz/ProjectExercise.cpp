@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "persistence/project/ProjectFileReader.h"
 #include "persistence/project/ProjectWriter.h"
+#include "support/CompoundChecker.h"
 #include "support/MemoryByteStore.h"
 #include "support/UnattendedPrompts.h"
 
@@ -81,6 +82,7 @@ void requireSame(const Project& saved, const Project& opened) {
 bool exerciseProjectFile(std::span<const std::byte> bytes) {
     const auto file = std::make_shared<MemoryFile>();
     file->bytes.assign(bytes.begin(), bytes.end());
+    const bool isSound = checkCompoundFile(bytes, CheckMode::OtherWriter).complaints.empty();
     Project project;
     const auto report = read(file, project);
     if (!report || report->outcome != ReadReport::Outcome::Read)
@@ -92,6 +94,8 @@ bool exerciseProjectFile(std::span<const std::byte> bytes) {
         return true;
     Project again;
     const auto second = read(file, again);
+    if (!isSound)
+        return true; // two elements may share sectors there, and one is written over by the other
     promise(second && second->outcome == ReadReport::Outcome::Read);
     promise(second->missing.isEmpty());
     requireSame(project, again);
