@@ -9,6 +9,9 @@
 namespace quillford {
 
 BenchDraft::BenchDraft(const QString& path) {
+    if (!folder_.isValid())
+        throw Error(0, folder_.errorString(), folder_.path());
+    folders_.temporary = folder_.path();
     readProject(path, project_);
     QtPictureReader pictures;
     measureFigures(project_.fields, pictures);
@@ -26,15 +29,9 @@ QString BenchDraft::preview() {
 }
 
 void BenchDraft::compose(const QString& path, QString& html) {
-    HtmlComposer composer(project_.fields, folder_, prompts_);
+    HtmlComposer composer(project_.fields, folders_, prompts_);
     if (!composer.ExportToHTML(path, html))
         throw composer.failure().value_or(Error(0, QStringLiteral("nothing was composed"), path));
-}
-
-QString BenchDraft::OwnFolder::temporaryFolder() {
-    if (!folder_.isValid())
-        throw Error(0, folder_.errorString(), folder_.path());
-    return folder_.path();
 }
 
 } // namespace quillford

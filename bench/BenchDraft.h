@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/fields/Project.h"
-#include "platform/Folders.h"
+#include "support/FakeFolders.h"
 #include "support/UnattendedPrompts.h"
 
 #include <QString>
@@ -23,18 +23,11 @@ public:
     [[nodiscard]] QString preview();
 
 private:
-    class OwnFolder final : public Folders {
-    public:
-        QString temporaryFolder() override;
-
-    private:
-        QTemporaryDir folder_;
-    };
-
     void compose(const QString& path, QString& html);
 
     Project project_;
-    OwnFolder folder_;
+    QTemporaryDir folder_;
+    FakeFolders folders_;
     UnattendedPrompts prompts_;
 };
 
