@@ -7,12 +7,15 @@
 #include <QFile>
 #include <QLoggingCategory>
 
+#include <csignal>
 #include <cstdio>
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     // Standard error holds the program's own line and nothing of the toolkit's.
     QLoggingCategory::setFilterRules(QStringLiteral("*.warning=false"));
+    // A file that grows beyond the limit set for the program is a failure like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     QFile output;
     QFile errors;
     if (!output.open(stdout, QIODevice::WriteOnly) || !errors.open(stderr, QIODevice::WriteOnly))
