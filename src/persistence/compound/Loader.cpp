@@ -206,11 +206,17 @@ void Loader::loadStorage(EntryId storage) {
         noteDamagedEntry(storage);
     if (walk.isWellFormed)
         return;
-    const Directory& directory = volume_.directory;
-    std::stable_sort(walk.inOrder.begin(), walk.inOrder.end(), [&](EntryId left, EntryId right) {
-        return NameKey(directory.at(left).name().value_or(QString())) <
-               NameKey(directory.at(right).name().value_or(QString()));
-    });
+    const auto key = [this](EntryId id) {
+        return NameKey(volume_.directory.at(id).name().value_or(QString()));
+    };
+    std::stable_sort(walk.inOrder.begin(), walk.inOrder.end(),
+                     [&key](EntryId left, EntryId right) { return key(left) < key(right); });
+    // Of two elements of one name nobody could tell which one a change is meant for.
+    const auto twin =
+        std::adjacent_find(walk.inOrder.begin(), walk.inOrder.end(),
+                           [&key](EntryId left, EntryId right) { return key(left) == key(right); });
+    if (twin != walk.inOrder.end())
+        noteDamagedEntry(*twin);
     NameTree(volume_.directory, storage).rebuild(walk.inOrder);
 }
 

@@ -65,6 +65,14 @@ private:
 
 } // namespace
 
+TEST(Loader, changes_nothing_in_a_file_with_two_elements_of_one_name) {
+    const MemoryCompound compound = fileNamed(QStringLiteral(
+        QUILLFORD_SOURCE_DIR "/fuzz/regressions/project/two-sections-of-one-name-share-sectors"));
+    const auto before = compound.file->bytes;
+    EXPECT_EQ(changeOf(compound), 0x80030109);
+    EXPECT_EQ(compound.file->bytes, before);
+}
+
 TEST(Loader, takes_no_time_for_a_hole_behind_the_last_sector_of_the_table) {
     const auto start = std::chrono::steady_clock::now();
     Storage root = Storage::openRoot(std::make_unique<LongStore>(), u"long"_s);
