@@ -119,20 +119,4 @@ void Fat::extend(Chain& chain, const Chain& added) {
     chain.append(added);
 }
 
-void Fat::cut(Chain& chain, quint32 length) {
-    const Chain gone = chain.cutTo(length);
-    if (gone.isEmpty())
-        return;
-    setNext(chain.last(), EndOfChain);
-    const quint32 first = tableSectorOf(chain.last());
-    setFree(gone);
-    writeChanged(first, first + 1);
-    writeChanged(0, tableSectors());
-}
-
-void Fat::release(const Chain& chain) {
-    setFree(chain);
-    writeChanged(0, tableSectors());
-}
-
 } // namespace quillford::compound

@@ -32,12 +32,6 @@ public:
     /// that was empty is reachable only when its owner has written the number of its first sector.
     void extend(Chain& chain, const Chain& added);
 
-    /// Cuts a chain to `length` sectors, not 0, and frees the others.
-    void cut(Chain& chain, quint32 length);
-
-    /// Frees the sectors of a chain that nobody reaches any more.
-    void release(const Chain& chain);
-
     void writeHeader();
 
 private:

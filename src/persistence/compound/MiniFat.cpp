@@ -75,20 +75,4 @@ void MiniFat::publishTable() {
     fat_.writeHeader();
 }
 
-void MiniFat::cut(Chain& chain, quint32 length) {
-    const Chain gone = chain.cutTo(length);
-    if (gone.isEmpty())
-        return;
-    setNext(chain.last(), EndOfChain);
-    const quint32 first = tableSectorOf(chain.last());
-    setFree(gone);
-    writeChanged(first, first + 1);
-    writeChanged(0, tableSectors());
-}
-
-void MiniFat::release(const Chain& chain) {
-    setFree(chain);
-    writeChanged(0, tableSectors());
-}
-
 } // namespace quillford::compound

@@ -31,12 +31,6 @@ public:
     /// empty is reachable only when its owner has written the number of its first mini sector.
     void extend(Chain& chain, const Chain& added);
 
-    /// Cuts a chain to `length` mini sectors, not 0, and frees the others.
-    void cut(Chain& chain, quint32 length);
-
-    /// Frees the mini sectors of a chain that nobody reaches any more.
-    void release(const Chain& chain);
-
 private:
     [[nodiscard]] SectorId placeOf(quint32 tableSector) const override {
         return tableSector < table_.length() ? table_.at(tableSector)

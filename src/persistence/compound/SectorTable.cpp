@@ -41,6 +41,22 @@ void SectorTable::setFree(const Chain& chain) {
     }
 }
 
+void SectorTable::cut(Chain& chain, quint32 length) {
+    const Chain gone = chain.cutTo(length);
+    if (gone.isEmpty())
+        return;
+    setNext(chain.last(), EndOfChain);
+    const quint32 first = tableSectorOf(chain.last());
+    setFree(gone);
+    writeChanged(first, first + 1);
+    writeChanged(0, tableSectors());
+}
+
+void SectorTable::release(const Chain& chain) {
+    setFree(chain);
+    writeChanged(0, tableSectors());
+}
+
 void SectorTable::appendTableSector(Bytes bytes) {
     for (std::size_t place = 0; place < bytes.size(); place += sizeof(SectorId))
         next_.push_back(loadLittleEndian<SectorId>(bytes, place));

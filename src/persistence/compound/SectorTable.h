@@ -36,6 +36,13 @@ public:
     /// Marks the sectors of a chain free.
     void setFree(const Chain& chain);
 
+    /// Cuts a chain that stays to `length` sectors, at least one: its new end is written first,
+    /// what is no longer reached is freed after it.
+    void cut(Chain& chain, quint32 length);
+
+    /// Frees a chain that nothing reaches any more.
+    void release(const Chain& chain);
+
     /// Adds the entries of one more table sector, from its bytes.
     void appendTableSector(Bytes bytes);
 
