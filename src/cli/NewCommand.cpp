@@ -63,14 +63,12 @@ ExitStatus NewCommand::execute(const QCommandLineParser& parser, CliContext& con
     const QString& out = files[1];
     OutputPlaces places;
     places.keep(json, QStringLiteral("the fields"));
-    places.take(out, QStringLiteral("new"));
     Project project;
     about(json,
           [&] { readProjectJson(contentOfFile(json), QFileInfo(json).absolutePath(), project); });
     requirePictures(project.fields);
-    OutputPlaces pictures;
-    pictures.keepPictures(project.fields);
-    pictures.take(out, QStringLiteral("new"));
+    places.keepPictures(project.fields);
+    places.take(out, QStringLiteral("new"));
     CliPrompts prompts(context.errors);
     about(out, [&] { writeWhole(project, out, prompts); });
     return ExitStatus::Done;
