@@ -16,6 +16,17 @@ public:
     void showMessage(Icon icon, const QString& title, const QString& text) override;
     [[nodiscard]] bool askYesNo(Icon icon, const QString& title, const QString& text) override;
 
+    // The command line is told every name and every answer beforehand.
+    [[nodiscard]] Answer askYesNoCancel(Icon icon, const QString& title,
+                                        const QString& text) override {
+        showMessage(icon, title, text);
+        return Answer::Cancel;
+    }
+
+    [[nodiscard]] QString chooseFileToOpen(const FileQuestion&) override { return {}; }
+
+    [[nodiscard]] QString chooseFileToSave(const FileQuestion&) override { return {}; }
+
     // The message window belongs to the wizard's tabs and has no line of its own.
     [[nodiscard]] bool showMsgWindow(const NotAgainChanged&) override { return false; }
 

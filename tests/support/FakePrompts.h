@@ -12,8 +12,9 @@
 namespace quillford {
 
 /// A user who reads every box and closes it. All boxes are kept in the order in which they were
-/// shown; a kind of question takes its answers from a script beside them and fails the test when
-/// the script has run out. Of the message window the arrangement is kept in place of its texts.
+/// shown, and beside them all questions for a file; a kind of question takes its answers from a
+/// script beside them and fails the test when the script has run out. Of the message window the
+/// arrangement is kept in place of its texts.
 class FakePrompts final : public UserPrompts {
 public:
     struct Box {
@@ -38,7 +39,11 @@ public:
     };
 
     std::vector<Box> boxes;
+    std::vector<FileQuestion> fileQuestions;
     std::deque<bool> yesNoAnswers;
+    std::deque<Answer> yesNoCancelAnswers;
+    std::deque<QString> filesToOpen;
+    std::deque<QString> filesToSave;
     std::deque<MessageWindow> msgWindows;
     std::deque<MessageWindow> tab4MsgWindows;
     std::deque<ExportChoice> exportChoices;
@@ -50,6 +55,21 @@ public:
     bool askYesNo(Icon icon, const QString& title, const QString& text) override {
         boxes.push_back({icon, title, text});
         return next(yesNoAnswers);
+    }
+
+    Answer askYesNoCancel(Icon icon, const QString& title, const QString& text) override {
+        boxes.push_back({icon, title, text});
+        return next(yesNoCancelAnswers);
+    }
+
+    QString chooseFileToOpen(const FileQuestion& question) override {
+        fileQuestions.push_back(question);
+        return next(filesToOpen);
+    }
+
+    QString chooseFileToSave(const FileQuestion& question) override {
+        fileQuestions.push_back(question);
+        return next(filesToSave);
     }
 
     bool showMsgWindow(const NotAgainChanged& changed) override {

@@ -17,6 +17,14 @@ public:
         throw Error(0, text, title);
     }
 
+    Answer askYesNoCancel(Icon, const QString& title, const QString& text) override {
+        throw Error(0, text, title);
+    }
+
+    QString chooseFileToOpen(const FileQuestion&) override { raise(); }
+
+    QString chooseFileToSave(const FileQuestion&) override { raise(); }
+
     bool showMsgWindow(const NotAgainChanged&) override { raise(); }
 
     void showTab4MsgWindow(const NotAgainChanged&) override { raise(); }
