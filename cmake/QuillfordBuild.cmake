@@ -40,6 +40,14 @@ function(quillford_floor name)
   target_link_libraries(${name} PUBLIC quillford_settings ${FLOOR_LINKS})
 endfunction()
 
+# The same for a floor with widgets: its designed forms (.ui files, beside the class that shows them)
+# and the toolkit's signals are compiled with it.
+function(quillford_widget_floor name)
+  quillford_floor(${name} ${ARGN})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
+  target_link_libraries(${name} PUBLIC Qt6::Widgets)
+endfunction()
+
 # quillford_program(NAME SOURCES file... LINKS target... [TOOL]): a program that users start, in the
 # program's folder, or one for tests and benchmarks, in the folder "tools".
 function(quillford_program name)

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QWidget>
+
+namespace quillford {
+
+/// Turns the names of a designed form's members of control arrays into those that they bear in the
+/// program: "picTab_3" becomes "picTab(3)". A designed form cannot hold the round brackets.
+void nameControlArrays(QWidget& form);
+
+/// Gives the controls of a panel that repeats, and the panel itself, the index of its row:
+/// "txtObject" becomes "txtObject(3)". Names that are empty or the toolkit's own stay.
+void nameRepeated(QWidget& panel, int index);
+
+} // namespace quillford

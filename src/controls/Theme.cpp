@@ -1,0 +1,63 @@
+#include "controls/Theme.h"
+
+#include "controls/LookStyle.h"
+
+#include <QApplication>
+#include <QPalette>
+
+namespace quillford::theme {
+
+namespace {
+
+QFont sans(int pixels, QFont::Weight weight) {
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(pixels);
+    font.setWeight(weight);
+    return font;
+}
+
+/// All roles are set together: a dark desktop would otherwise give white text on white fields.
+QPalette lightPalette() {
+    QPalette palette(White, Window);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                            QPalette::ToolTipText, QPalette::BrightText})
+        palette.setColor(role, Text);
+    palette.setColor(QPalette::Base, White);
+    palette.setColor(QPalette::AlternateBase, Window);
+    palette.setColor(QPalette::ToolTipBase, White);
+    palette.setColor(QPalette::Button, White);
+    palette.setColor(QPalette::Highlight, Heading);
+    palette.setColor(QPalette::HighlightedText, White);
+    palette.setColor(QPalette::Link, Heading);
+    palette.setColor(QPalette::LinkVisited, Heading);
+    palette.setColor(QPalette::PlaceholderText, MutedText);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, MutedText);
+    palette.setColor(QPalette::Disabled, QPalette::Base, Window);
+    return palette;
+}
+
+} // namespace
+
+QFont captionFont() {
+    return sans(CaptionPixels, QFont::Normal);
+}
+
+QFont headingFont() {
+    return sans(CaptionPixels + 2, QFont::Bold);
+}
+
+QFont fieldFont() {
+    return sans(FieldPixels, QFont::Normal);
+}
+
+void apply(QApplication& application) {
+    application.setStyle(new LookStyle);
+    application.setPalette(lightPalette());
+    application.setFont(captionFont());
+    for (const char* field : {"QLineEdit", "QPlainTextEdit", "QComboBox", "QAbstractItemView"})
+        QApplication::setFont(fieldFont(), field);
+}
+
+} // namespace quillford::theme
