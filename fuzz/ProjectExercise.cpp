@@ -21,18 +21,20 @@ void promise(bool holds) {
         std::abort();
 }
 
-/// No sector belongs to two streams, so that the pictures cannot be more than the file.
+/// A picture holds what its stream does, and zeros where the stream is shorter than it says; it
+/// says so within bounds, so that a small file cannot fill the memory.
 class Scales final : public PictureReceiver {
 public:
-    explicit Scales(std::size_t most) : left_(most) {}
+    explicit Scales(std::size_t fileSize) : most_(fileSize + MostMissing) {}
 
     void takePicture(int, const QString&, const QByteArray& bytes) override {
-        promise(static_cast<std::size_t>(bytes.size()) <= left_);
-        left_ -= static_cast<std::size_t>(bytes.size());
+        promise(static_cast<std::size_t>(bytes.size()) <= most_);
     }
 
 private:
-    std::size_t left_;
+    static constexpr std::size_t MostMissing = std::size_t{32} * 1024 * 1024;
+
+    std::size_t most_;
 };
 
 Storage open(const File& file) {
