@@ -3,7 +3,10 @@
 #include "controls/LookStyle.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QPalette>
+
+#include <algorithm>
 
 namespace quillford::theme {
 
@@ -50,6 +53,25 @@ QFont headingFont() {
 
 QFont fieldFont() {
     return sans(FieldPixels, QFont::Normal);
+}
+
+void makeHeading(QLabel& label) {
+    label.setFont(headingFont());
+    colour(label, Heading);
+}
+
+void makeHeadings(QWidget& form, std::initializer_list<QStringView> names) {
+    for (QLabel* label : form.findChildren<QLabel*>()) {
+        const QString name = label->objectName().section(u'(', 0, 0);
+        if (std::find(names.begin(), names.end(), name) != names.end())
+            makeHeading(*label);
+    }
+}
+
+void colour(QWidget& widget, const QColor& colour) {
+    QPalette colours = widget.palette();
+    colours.setColor(QPalette::WindowText, colour);
+    widget.setPalette(colours);
 }
 
 void apply(QApplication& application) {

@@ -2,8 +2,13 @@
 
 #include <QColor>
 #include <QFont>
+#include <QStringView>
+
+#include <initializer_list>
 
 class QApplication;
+class QLabel;
+class QWidget;
 
 /// The look of the program: one light palette whatever the desktop's own is, and one font.
 namespace quillford::theme {
@@ -28,6 +33,16 @@ inline constexpr int FieldPixels = 12;   ///< what the user types
 [[nodiscard]] QFont captionFont();
 [[nodiscard]] QFont headingFont();
 [[nodiscard]] QFont fieldFont();
+
+/// Makes a label a heading: bold, in the headings' colour.
+void makeHeading(QLabel& label);
+
+/// Makes the labels of a form with these names headings, each with every member of its control
+/// array; a name that the form does not have is passed over.
+void makeHeadings(QWidget& form, std::initializer_list<QStringView> names);
+
+/// Gives a label or line a colour of its own.
+void colour(QWidget& widget, const QColor& colour);
 
 /// Gives the application this look, before its first window is made.
 void apply(QApplication& application);

@@ -20,6 +20,9 @@ public:
     /// The number of a control, 0 as long as none was given.
     [[nodiscard]] int tabIndex(const QString& control) const { return numbers_.value(control); }
 
+    /// False as long as the control was given no number.
+    [[nodiscard]] bool hasNumber(const QString& control) const { return numbers_.contains(control); }
+
     void setTabIndex(const QString& control, int number) { numbers_.insert(control, number); }
 
     /// Gives `next` the number behind that of `previous`.

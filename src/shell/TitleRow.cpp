@@ -1,0 +1,40 @@
+#include "shell/TitleRow.h"
+
+#include "controls/Theme.h"
+#include "platform/TextMeasure.h"
+
+#include <QLabel>
+
+namespace quillford {
+
+TitleRow::TitleRow(QWidget& form)
+    : QObject(&form),
+      form_(form),
+      caption_(form.findChild<QLabel*>(QStringLiteral("lblCaption"))),
+      title_(form.findChild<QLabel*>(QStringLiteral("lblTitleInvention"))),
+      saveState_(form.findChild<QLabel*>(QStringLiteral("lblSaveState"))) {
+    for (QLabel* label : {caption_, title_, saveState_}) {
+        label->setTextFormat(Qt::PlainText);
+        theme::colour(*label, theme::White);
+    }
+    QFont bold = theme::fieldFont();
+    bold.setBold(true);
+    caption_->setFont(bold);
+}
+
+void TitleRow::setCaption(const QString& caption) {
+    form_.setWindowTitle(caption);
+    caption_->setText(
+        caption_->fontMetrics().elidedText(caption, Qt::ElideMiddle, caption_->width()));
+    caption_->setToolTip(caption);
+}
+
+void TitleRow::showTitleInvention(const QString& caption) {
+    title_->setText(caption);
+}
+
+void TitleRow::showSaveState(const QString& text) {
+    saveState_->setText(text);
+}
+
+} // namespace quillford

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "core/settings/mdlSystem.h"
+#include "platform/Clock.h"
+
+#include <QTimer>
+#include <QWidget>
+
+namespace quillford {
+
+/// The picture at the start of the program: it fades in, stays for three seconds and fades out. A
+/// plain borderless window; the toolkit's own splash may sleep a second until it is mapped.
+class frmSplash final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Both outlive the window.
+    frmSplash(Clock& clock, const mdlSystem& system);
+
+    /// Shows the window until it has faded out. At a pace of 0 nothing is shown at all.
+    void showModally();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void timer1();
+
+    Clock& clock_;
+    const mdlSystem& system_;
+    QTimer Timer1_;
+    int alpha_ = 0;
+    int step_;
+    bool gone_ = false;
+};
+
+} // namespace quillford
