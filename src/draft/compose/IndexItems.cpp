@@ -7,15 +7,6 @@ namespace quillford {
 
 namespace {
 
-QString indexWords(QStringView text) {
-    QString words;
-    for (const QStringView word : text.split(u' ')) {
-        words += isSmallWord(word) ? word.toString() : properCaseWord(word);
-        words += u' ';
-    }
-    return words;
-}
-
 QString blanksBehind(const QString& numeral) {
     const bool isShort = numeral.size() < 4;
     return isShort ? QStringLiteral("   ") : QStringLiteral("  ");
@@ -33,8 +24,9 @@ QString lineFor(const QString& numeral, const QString& words, Route route) {
 
 void setIndexItem(TemplateItems& items, const Field& cell, const QString& numeral, int itemNumber,
                   Route route) {
-    const QString line =
-        cell.isFilled() ? lineFor(numeral, indexWords(cell.text()), route) : QString();
+    const QString line = cell.isFilled()
+                             ? lineFor(numeral, properCaseIndexEntry(cell.text()) + u' ', route)
+                             : QString();
     items.SetItem(QStringLiteral("Element-%1").arg(itemNumber), line);
 }
 

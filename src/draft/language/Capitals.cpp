@@ -13,6 +13,19 @@ namespace {
 
 constexpr std::array<QStringView, 5> SmallWords{u"in", u"at", u"on", u"of", u"for"};
 
+/// The text with each of its words put through `change`.
+template <typename Change>
+QString eachWord(QStringView text, Change change) {
+    QString changed;
+    changed.reserve(text.size() + 1);
+    for (const QStringView word : text.tokenize(u' ')) {
+        changed += change(word);
+        changed += u' ';
+    }
+    changed.chop(1);
+    return changed;
+}
+
 } // namespace
 
 QString upperFirstLetter(QStringView text) {
@@ -24,18 +37,17 @@ QString properCaseWord(QStringView word) {
 }
 
 QString properCaseWords(QStringView text) {
-    QString cased;
-    cased.reserve(text.size() + 1);
-    for (const QStringView word : text.tokenize(u' ')) {
-        cased += properCaseWord(word);
-        cased += u' ';
-    }
-    cased.chop(1);
-    return cased;
+    return eachWord(text, properCaseWord);
 }
 
 bool isSmallWord(QStringView word) {
     return std::find(SmallWords.begin(), SmallWords.end(), lowerCase(word)) != SmallWords.end();
+}
+
+QString properCaseIndexEntry(QStringView text) {
+    return eachWord(text, [](QStringView word) {
+        return isSmallWord(word) ? word.toString() : properCaseWord(word);
+    });
 }
 
 } // namespace quillford

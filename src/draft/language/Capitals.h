@@ -20,4 +20,8 @@ namespace quillford {
 /// Elements, the case in which they were typed. A blank beside the word makes it another word.
 [[nodiscard]] bool isSmallWord(QStringView word);
 
+/// The text as the Index of Elements shows it: each of its words put through `properCaseWord`, the
+/// small ones as typed. Runs of blanks are kept.
+[[nodiscard]] QString properCaseIndexEntry(QStringView text);
+
 } // namespace quillford

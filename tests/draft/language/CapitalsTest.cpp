@@ -95,3 +95,8 @@ TEST(Capitals, a_text_of_half_a_million_blanks_keeps_its_length) {
     const QString blanks(1'000'000, u' ');
     EXPECT_EQ(properCaseWords(blanks), blanks);
 }
+
+TEST(Capitals, an_entry_of_the_index_keeps_its_small_words_as_typed) {
+    EXPECT_EQ(properCaseIndexEntry(u"LEG OF the easel  for ART"), u"Leg OF The Easel  for Art"_s);
+    EXPECT_EQ(properCaseIndexEntry(u""), u""_s);
+}
