@@ -25,9 +25,7 @@ void FormCombo::showText(const QString& text) {
 
 void FormCombo::setTint(bool on) {
     tinted_ = on;
-    QPalette colours = palette();
-    colours.setColor(QPalette::Base, on ? theme::Tint : theme::White);
-    setPalette(colours);
+    theme::setTint(*this, on);
 }
 
 void FormCombo::setTyping(bool on) {

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPalette>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -80,6 +81,13 @@ void apply(QApplication& application) {
     application.setFont(captionFont());
     for (const char* field : {"QLineEdit", "QPlainTextEdit", "QComboBox", "QAbstractItemView"})
         QApplication::setFont(fieldFont(), field);
+}
+
+void setTint(QWidget& field, bool on) {
+    QPalette own;
+    if (on)
+        own.setColor(QPalette::Base, Tint);
+    field.setPalette(own);
 }
 
 } // namespace quillford::theme

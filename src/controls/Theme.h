@@ -47,4 +47,7 @@ void colour(QWidget& widget, const QColor& colour);
 /// Gives the application this look, before its first window is made.
 void apply(QApplication& application);
 
+/// Gives a field the back of an empty required field, or the one of all others again.
+void setTint(QWidget& field, bool on);
+
 } // namespace quillford::theme
