@@ -1,0 +1,71 @@
+#include "core/commands/SaveDialog.h"
+
+#include "base/Text.h"
+#include "core/settings/FileNames.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quillford {
+
+namespace {
+
+constexpr QStringView ProjectsFolder = u"/Projects";
+constexpr QStringView FinalProjectsFolder = u"/Projects/Final Projects";
+
+/// What the dialog starts with for a kind of file that the program writes.
+struct FileKind {
+    QStringView extension;
+    QStringView prefix;        ///< of a name; a blank and a number follow
+    QStringView ending;        ///< behind the file number
+    QStringView freeExtension; ///< of a name with a number that is free
+    QStringView filterDescription;
+    QStringView folder; ///< below the working folder
+};
+
+constexpr std::array<FileKind, 3> FileKinds{{
+    {u"ivd", u"Project -", u".ivd", u"ivd", u"Quillford(.ivd)", ProjectsFolder},
+    {u"doc", u"Final -", u"", u"doc", u"Word Document(.doc)", FinalProjectsFolder},
+    {u"htm", u"Final -", u"", u"html", u"html files(.htm)", FinalProjectsFolder},
+}};
+
+/// The ending is looked for in the last four characters, however long the extension is.
+bool hasEnding(const QString& path, const QString& ending) {
+    constexpr qsizetype LookedAt = 4;
+    return lowerCase(path.right(LookedAt)) == ending;
+}
+
+} // namespace
+
+SaveDialog::SaveDialog(const ProjectFields& fields, WorkFolders& folders, UserPrompts& prompts)
+    : fields_(fields), folders_(folders), prompts_(prompts) {}
+
+QString SaveDialog::ask(const QString& extension) {
+    const QString ending = u'.' + extension;
+    const auto kind =
+        std::find_if(FileKinds.begin(), FileKinds.end(),
+                     [&](const FileKind& candidate) { return candidate.extension == extension; });
+    UserPrompts::FileQuestion question;
+    question.folder = folders_.getWorkDir();
+    question.filterPattern = u'*' + ending;
+    if (kind == FileKinds.end()) {
+        question.folder += FinalProjectsFolder;
+        question.filterDescription = extension + QStringLiteral(" files");
+    } else {
+        question.folder += kind->folder;
+        question.filterDescription = kind->filterDescription.toString();
+        question.name = proposedName(kind->prefix.toString(), kind->ending.toString(),
+                                     kind->freeExtension.toString());
+    }
+    const QString path = prompts_.chooseFileToSave(question);
+    return path.isEmpty() || hasEnding(path, ending) ? path : path + ending;
+}
+
+QString SaveDialog::proposedName(const QString& prefix, const QString& ending,
+                                 const QString& freeExtension) {
+    const Field& fileNo = fields_.txtFileNo;
+    return fileNo.isFilled() ? fileNameWith(prefix + u' ', fileNo.text(), ending)
+                             : folders_.nextFreeName(prefix, freeExtension);
+}
+
+} // namespace quillford
