@@ -35,6 +35,8 @@ public:
     /// old one and takes its place when it is whole; raises `Error` naming the file otherwise.
     void SaveAs(const QString& path, const QString& text) const;
 
+    /// Sets the item `name`. A new item is added behind the others; one that exists takes the value
+    /// in its place, or, when `append` is set, has it added behind its text.
     void SetItem(const QString& name, const QString& value, bool append = false) override;
 
     /// Removes an item if it exists.

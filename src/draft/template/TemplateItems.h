@@ -9,9 +9,8 @@ class TemplateItems {
 public:
     virtual ~TemplateItems() = default;
 
-    /// Sets the item `name`. A new item is added behind the others; one that exists takes the value
-    /// in its place, or, when `append` is set, has it added behind its text.
-    virtual void SetItem(const QString& name, const QString& value, bool append = false) = 0;
+    /// Gives the item `name` a value. What the flag asks for beyond that is the engine's affair.
+    virtual void SetItem(const QString& name, const QString& value, bool flag = false) = 0;
 };
 
 } // namespace quillford
