@@ -1,0 +1,52 @@
+#pragma once
+
+#include "app/Ports.h"
+#include "core/commands/NewProject.h"
+#include "core/fields/Project.h"
+#include "core/wizard/FinalDraftEntry.h"
+#include "editors/binding/FieldGuidance.h"
+#include "editors/pages/PageIntroduction.h"
+#include "editors/pages/PageOperation.h"
+#include "shell/FormLooks.h"
+#include "shell/FormScreen.h"
+#include "shell/PanelStack.h"
+#include "shell/frmMain1.h"
+
+namespace quillford {
+
+/// The main form with all that hangs on it, made and joined in the order in which the parts need
+/// each other.
+class MainWindow {
+public:
+    /// Owns none of its arguments; all outlive it.
+    MainWindow(Project& project, mdlSystem& system, Settings& settings, UserPrompts& prompts,
+               Ports& ports);
+    ~MainWindow();
+
+    [[nodiscard]] frmMain1& form() { return form_; }
+
+    void NewFile() { newProject_.NewFile(); }
+
+    void OpenFile(const QString& path);
+
+    void showWelcomePage() { navigator_.showWelcomePage(); }
+
+private:
+    void join();
+
+    Project& project_;
+    FocusOrder focusOrder_;
+    frmMain1 form_;
+    BoundFields bound_;
+    PanelStack pages_;
+    FormScreen projectScreen_;
+    FieldGuidance guidance_;
+    WizardScreen screen_;
+    SectionRules rules_;
+    SectionMessages messages_;
+    TabEntry entry_;
+    WizardNavigator navigator_;
+    NewProject newProject_;
+};
+
+} // namespace quillford
