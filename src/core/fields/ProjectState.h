@@ -32,6 +32,9 @@ struct ProjectState {
     bool resetting = false;
     /// True for the length of opening a project.
     bool isOpening = false;
+    /// True while the fields take what was read from a file: no field changes but the one that is
+    /// read.
+    bool isLoading = false;
     /// The project is a working copy that was left by an earlier run.
     bool isDraftProject = false;
     /// The project was open when an earlier run ended without closing it.

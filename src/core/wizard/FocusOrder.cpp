@@ -69,6 +69,12 @@ QString controlName(QStringView name, int index) {
     return QStringLiteral("%1(%2)").arg(name).arg(index);
 }
 
+QString controlName(FieldPlace place) {
+    const FieldRow& row = fieldRow(place.field);
+    return row.group == FieldGroup::Single ? row.name.toString()
+                                           : controlName(row.name, place.index);
+}
+
 QStringList focusOrderOf(int tab, const ProjectFields& fields) {
     QStringList controls;
     for (auto step = std::begin(Steps); step != std::end(Steps);) {

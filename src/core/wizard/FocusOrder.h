@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/fields/ProjectFields.h"
+#include "core/rules/GuidanceRules.h"
 
 #include <QHash>
 #include <QString>
@@ -11,6 +12,9 @@ namespace quillford {
 
 /// The name of a control on screen; a member of a control array has its index in round brackets.
 [[nodiscard]] QString controlName(QStringView name, int index);
+
+/// The name of a field's control.
+[[nodiscard]] QString controlName(FieldPlace place);
 
 /// The order in which the Tab key walks the controls: one number a control, `TabIndex`. The window
 /// asks for the numbers when the key is pressed and walks those controls that are shown and

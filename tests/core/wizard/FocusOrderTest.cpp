@@ -30,6 +30,11 @@ TEST_F(FocusOrderTest, a_member_of_a_control_array_has_its_index_in_brackets) {
     EXPECT_EQ(controlName(u"txtObject", 0), u"txtObject(0)");
 }
 
+TEST_F(FocusOrderTest, a_field_that_stands_once_has_no_index_in_its_name) {
+    EXPECT_EQ(controlName({FieldId::txtPurpose}), u"txtPurpose"_s);
+    EXPECT_EQ(controlName({FieldId::txtObject, 14}), u"txtObject(14)"_s);
+}
+
 TEST_F(FocusOrderTest, a_chained_control_comes_directly_behind) {
     order.setTabIndex(u"txtEmailStep1"_s, 15);
     order.chainTabIndex(u"txtEmailStep1"_s, u"txtFileNo"_s);

@@ -1,0 +1,94 @@
+#include "editors/rules/ContactMirror.h"
+
+#include "editors/rules/PanelTabOrder.h"
+
+namespace quillford {
+
+namespace {
+
+struct MirrorPair {
+    FieldId contact;
+    FieldId inventor;
+};
+
+using enum FieldId;
+
+/// The country of the contact is the citizenship of the inventor.
+constexpr MirrorPair Pairs[] = {
+    {txtNameStep1, txtNameStep2},           {txtMIStep1, txtMIStep2},
+    {txtLastStep1, txtLastStep2},           {txtAddress1Step1, txtAddress1Step2},
+    {txtAddress2Step1, txtAddress2Step2},   {txtCityStep1, txtCityStep2},
+    {cboStateStep1, cboStateStep2},         {txtZipStep1, txtZipStep2},
+    {cboCountryStep1, cboCitizenshipStep2},
+};
+
+} // namespace
+
+ContactMirror::ContactMirror(ProjectFields& fields, const ProjectState& state, UserPrompts& prompts,
+                             FieldScreen& screen, FocusOrder& order)
+    : fields_(fields), state_(state), prompts_(prompts), screen_(screen), order_(order) {}
+
+void ContactMirror::mirror(FieldId field) {
+    if (state_.isLoading || state_.resetting || !isChecked())
+        return;
+    for (const MirrorPair& pair : Pairs)
+        if (pair.contact == field)
+            passOn(pair.inventor, fields_.at(field).text());
+}
+
+void ContactMirror::chkSameAsContact_Click() {
+    if (!isChecked())
+        return release();
+    if (!PromptSameAsContact())
+        return;
+    if (prompts_.askYesNo(UserPrompts::Icon::Question, QStringLiteral("Information"),
+                          QStringLiteral("Do you want Quillford 3.1 to use the information "
+                                         "provided in section 1.Introduction for the First "
+                                         "Inventor?")))
+        useContact();
+    else
+        fields_.chkSameAsContact.setText(QStringLiteral("0")); // comes back here
+}
+
+void ContactMirror::cboStateStep1_LostFocus() {
+    passOn(cboStateStep2, fields_.cboStateStep1.text());
+}
+
+bool ContactMirror::isChecked() const {
+    return fields_.chkSameAsContact.text() == u"1";
+}
+
+void ContactMirror::release() {
+    enableInventor(true);
+    numberInventors(fields_.panelCount(FieldGroup::Inventors), order_);
+}
+
+/// Lists pass on as they stand, texts without their outer blanks. The zip code goes by the city:
+/// without a city it does not pass over.
+void ContactMirror::useContact() {
+    for (const MirrorPair& pair : Pairs) {
+        const Field& contact = fields_.at(pair.contact);
+        const bool isList = contact.row().kind == FieldKind::Combo;
+        const bool passes = pair.contact != txtZipStep1 || fields_.txtCityStep1.isFilled();
+        const bool asItStands = isList && (contact.isFilled() || pair.contact == cboCountryStep1);
+        passOn(pair.inventor, asItStands ? contact.text()
+                              : passes   ? contact.trimmedText()
+                                         : QString());
+    }
+    enableInventor(false);
+}
+
+void ContactMirror::enableInventor(bool on) {
+    for (const MirrorPair& pair : Pairs)
+        screen_.enableField({pair.inventor}, on);
+}
+
+/// A state turns white by a choice alone, and nobody can choose in a list that is disabled.
+void ContactMirror::passOn(FieldId partner, const QString& text) {
+    Field& inventor = fields_.at(partner);
+    inventor.setText(text);
+    if (partner == cboStateStep2 && inventor.isFilled())
+        screen_.whiten({partner});
+}
+
+} // namespace quillford
