@@ -10,8 +10,7 @@ namespace quillford {
 class FormLooks final : public TabLooks {
 public:
     /// Owns none of its arguments; all outlive it.
-    FormLooks(QWidget& form, TabStrip& tabs, StepBar& bar)
-        : form_(form), tabs_(tabs), bar_(bar) {}
+    FormLooks(QWidget& form, TabStrip& tabs, StepBar& bar) : form_(form), tabs_(tabs), bar_(bar) {}
 
     void setTabLook(int tab, TabLook look) override { tabs_.setTabLook(tab, look); }
 

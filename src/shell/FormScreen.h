@@ -16,10 +16,7 @@ public:
 
     /// Owns none of its arguments; all outlive it.
     FormScreen(QWidget& form, TitleRow& title, WelcomePage& welcome, BlankPreview blankPreview)
-        : form_(form),
-          title_(title),
-          welcome_(welcome),
-          blankPreview_(std::move(blankPreview)) {}
+        : form_(form), title_(title), welcome_(welcome), blankPreview_(std::move(blankPreview)) {}
 
     void setCaption(const QString& caption) override { title_.setCaption(caption); }
 

@@ -10,8 +10,9 @@ namespace quillford {
 class ClickLabel;
 class Picture;
 
-/// The help beside the sections, `picHelpOn`: the start page of the tab that is shown, what it links
-/// to, and the way back. The pages lie below the program's folder, "help/Section N/index.htm".
+/// The help beside the sections, `picHelpOn`: the start page of the tab that is shown, what it
+/// links to, and the way back. The pages lie below the program's folder, "help/Section
+/// N/index.htm".
 class HelpPane final : public QObject {
     Q_OBJECT
 

@@ -39,7 +39,7 @@ bool KeyCommands::take(const QKeyEvent& event) {
     for (const KeyCommand& command : Commands) {
         if (event.key() != command.key || event.modifiers() != command.modifier)
             continue;
-        Q_EMIT (this->*command.wanted)();
+        Q_EMIT(this->*command.wanted)();
         return true;
     }
     return false;

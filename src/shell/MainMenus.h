@@ -42,7 +42,7 @@ private:
     [[nodiscard]] QWidget& wordOf(const QMenu& menu) const;
 
     QWidget& form_;
-    QMenu* file_;      // the menus are owned by the form
+    QMenu* file_; // the menus are owned by the form
     QMenu* help_;
     QMenu* resources_;
 };

@@ -34,6 +34,7 @@ public:
     [[nodiscard]] bool isPanelShown(int tab) const override;
     void focusPanel(int tab) override;
     void focusField(FieldId field, int index) override;
+
     void HelpOn(int tab) override { help_.HelpOn(tab); }
 
 private:

@@ -11,17 +11,16 @@ namespace quillford {
 namespace {
 
 bool takesTab(const QWidget& widget) {
-    return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isEnabled() &&
-           widget.isVisible() && !widget.focusProxy();
+    return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isEnabled() && widget.isVisible() &&
+           !widget.focusProxy();
 }
 
 /// What the ring is sorted by: the number, and for controls without one their place in the form.
 std::tuple<int, int, int> rankOf(const QWidget& widget, const QWidget& form,
                                  const FocusOrder& order) {
     const QPoint place = widget.mapTo(&form, QPoint(0, 0));
-    const int number = order.hasNumber(widget.objectName())
-                           ? order.tabIndex(widget.objectName())
-                           : std::numeric_limits<int>::max();
+    const int number = order.hasNumber(widget.objectName()) ? order.tabIndex(widget.objectName())
+                                                            : std::numeric_limits<int>::max();
     return {number, place.y(), place.x()};
 }
 

@@ -34,14 +34,6 @@ QString controlNameOf(const FieldPlace& place) {
                                            : controlName(row.name, place.index);
 }
 
-BoundFields::BoundFields(ProjectFields& fields) : fields_(fields) {
-    fields_.setObserver(this);
-}
-
-BoundFields::~BoundFields() {
-    fields_.setObserver(nullptr);
-}
-
 void BoundFields::bind(LineField& control) {
     FieldBinding& binding =
         add(control, {&control, [&control](const QString& text) { control.showText(text); },
@@ -70,10 +62,9 @@ void BoundFields::bind(FormCombo& control) {
 }
 
 void BoundFields::bind(QCheckBox& control) {
-    FieldBinding& binding =
-        add(control, {&control,
-                      [&control](const QString& text) { control.setChecked(text == u'1'); },
-                      [](bool) { /* a check box has no tint */ }});
+    FieldBinding& binding = add(
+        control, {&control, [&control](const QString& text) { control.setChecked(text == u'1'); },
+                  [](bool) { /* a check box has no tint */ }});
     connect(&control, &QCheckBox::clicked, &binding, [&binding](bool checked) {
         binding.edit(checked ? QStringLiteral("1") : QStringLiteral("0"));
         binding.choose();
@@ -134,11 +125,25 @@ void BoundFields::whitenAll() {
         binding->setTint(false);
 }
 
-void BoundFields::fieldChanged(FieldId field, int index) {
-    if (FieldBinding* binding = find({field, index}))
+void BoundFields::showText(FieldPlace place) {
+    if (FieldBinding* binding = find(place))
         binding->showField();
-    if (next_)
-        next_->fieldChanged(field, index);
+}
+
+void BoundFields::SpellAttach(FieldPlace place) {
+    QWidget* widget = control(place);
+    if (widget && hooks_.spell)
+        hooks_.spell(*widget);
+}
+
+void BoundFields::enableField(FieldPlace place, bool on) {
+    if (QWidget* widget = control(place))
+        widget->setEnabled(on);
+}
+
+void BoundFields::showFigureSentence(int figure) {
+    if (hooks_.figureSentence)
+        hooks_.figureSentence(figure);
 }
 
 } // namespace quillford

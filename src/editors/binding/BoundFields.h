@@ -1,9 +1,12 @@
 #pragma once
 
 #include "editors/binding/FieldBinding.h"
+#include "editors/rules/FieldScreen.h"
 
 #include <QHash>
 #include <QObject>
+
+#include <functional>
 
 class QCheckBox;
 
@@ -13,18 +16,22 @@ class FormCombo;
 class LineField;
 class TextField;
 
-/// All bindings between the project's fields and the controls on screen. It is the observer of the
-/// fields: a change by anyone is shown first and then handed on to what follows a change.
-class BoundFields final : public QObject, public FieldObserver {
+/// All bindings between the project's fields and the controls on screen.
+class BoundFields final : public QObject, public FieldScreen {
     Q_OBJECT
 
 public:
-    /// Becomes the observer of `fields`, which outlives it.
-    explicit BoundFields(ProjectFields& fields);
-    ~BoundFields() override;
+    /// What follows a change on screen and is no field's business.
+    struct Hooks {
+        std::function<void(QWidget& control)> spell;    ///< binds the spell checker to a control
+        std::function<void(int figure)> figureSentence; ///< writes a figure's sentence anew
+    };
 
-    /// Who is told of a change once it is shown; null for nobody. Not owned.
-    void setNext(FieldObserver* next) { next_ = next; }
+    /// `fields` outlives the bindings.
+    explicit BoundFields(ProjectFields& fields) : fields_(fields) {}
+
+    /// A hook that is not set does nothing.
+    void setHooks(Hooks hooks) { hooks_ = std::move(hooks); }
 
     /// Binds a control to a field, by the control's own name: "txtFileNo", "txtObject(3)". It gets
     /// the field's limit, its list's rows and, where it has none of its own, the field's label as
@@ -43,7 +50,14 @@ public:
     void setTint(const FieldPlace& place, bool on);
     void whitenAll();
 
-    void fieldChanged(FieldId field, int index) override;
+    // A field without a control, on a panel that is not made yet, is passed over.
+    void showText(FieldPlace place) override;
+
+    void whiten(FieldPlace place) override { setTint(place, false); }
+
+    void SpellAttach(FieldPlace place) override;
+    void enableField(FieldPlace place, bool on) override;
+    void showFigureSentence(int figure) override;
 
 Q_SIGNALS:
     /// The focus has come to a field's control, by the Tab key or otherwise.
@@ -59,7 +73,7 @@ private:
     [[nodiscard]] FieldBinding* find(const FieldPlace& place) const;
 
     ProjectFields& fields_;
-    FieldObserver* next_ = nullptr;
+    Hooks hooks_;
     QHash<QString, FieldBinding*> bindings_;
 };
 

@@ -20,6 +20,7 @@ public:
 
     void TextHighLight(int tab) override;
     void TextgotFocus(int tab) override;
+
     void whitenAll() override { bound_.whitenAll(); }
 
 private:

@@ -49,8 +49,8 @@ public:
 
     [[nodiscard]] const ScrollColumn& arithmetic() const { return arithmetic_; }
 
-    /// Brings a control of a panel into view when the Tab key has reached it. `panel` is its panel's
-    /// index, and the control stands directly on that panel.
+    /// Brings a control of a panel into view when the Tab key has reached it. `panel` is its
+    /// panel's index, and the control stands directly on that panel.
     void FollowTab(const QWidget& control, int panel);
 
 private:

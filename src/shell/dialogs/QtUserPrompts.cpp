@@ -13,11 +13,16 @@ namespace {
 
 QMessageBox::Icon asShown(UserPrompts::Icon icon) {
     switch (icon) {
-    case UserPrompts::Icon::None: return QMessageBox::NoIcon;
-    case UserPrompts::Icon::Information: return QMessageBox::Information;
-    case UserPrompts::Icon::Question: return QMessageBox::Question;
-    case UserPrompts::Icon::Exclamation: return QMessageBox::Warning;
-    case UserPrompts::Icon::Critical: return QMessageBox::Critical;
+    case UserPrompts::Icon::None:
+        return QMessageBox::NoIcon;
+    case UserPrompts::Icon::Information:
+        return QMessageBox::Information;
+    case UserPrompts::Icon::Question:
+        return QMessageBox::Question;
+    case UserPrompts::Icon::Exclamation:
+        return QMessageBox::Warning;
+    case UserPrompts::Icon::Critical:
+        return QMessageBox::Critical;
     }
     return QMessageBox::NoIcon;
 }
@@ -35,8 +40,7 @@ int askInBox(QWidget* parent, UserPrompts::Icon icon, const QString& title, cons
 /// "Quillford File|*.ivd;*.x" as the toolkit's dialog writes it.
 QString filterOf(const UserPrompts::FileQuestion& question) {
     QString patterns = question.filterPattern;
-    return QStringLiteral("%1 (%2)").arg(question.filterDescription,
-                                         patterns.replace(u';', u' '));
+    return QStringLiteral("%1 (%2)").arg(question.filterDescription, patterns.replace(u';', u' '));
 }
 
 QString chooseFile(QWidget* parent, const UserPrompts::FileQuestion& question,
@@ -70,9 +74,9 @@ bool QtUserPrompts::askYesNo(Icon icon, const QString& title, const QString& tex
 UserPrompts::Answer QtUserPrompts::askYesNoCancel(Icon icon, const QString& title,
                                                   const QString& text) {
     const CommandScope asking(state_);
-    const int answer = askInBox(parent_, icon, title, text,
-                                QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
-                                QMessageBox::Cancel);
+    const int answer =
+        askInBox(parent_, icon, title, text,
+                 QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel);
     if (answer == QMessageBox::Yes)
         return Answer::Yes;
     return answer == QMessageBox::No ? Answer::No : Answer::Cancel;

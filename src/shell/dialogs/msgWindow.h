@@ -12,8 +12,8 @@ class msgWindow;
 }
 
 /// The dialog for the three messages that need more than a plain box. Each operation arranges the
-/// controls, shows the window and waits for its end; the keys Y and N answer where Yes and No stand.
-/// A window that is closed otherwise says No, or Cancel.
+/// controls, shows the window and waits for its end; the keys Y and N answer where Yes and No
+/// stand. A window that is closed otherwise says No, or Cancel.
 class msgWindow final : public FormDialog {
     Q_OBJECT
 
