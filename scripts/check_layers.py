@@ -31,6 +31,7 @@ SUBFOLDERS = {folder: order for floor in FLOORS for folder, order in floor.items
 PROGRAMS = {"app", "cli"}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
+DESIGNED = re.compile(r"ui_(\w+)\.h")
 # Both strip tabs and line ends as well; base/Text has the trim that is meant.
 FORBIDDEN_CALL = re.compile(r"(?:\.|->)(trimmed|simplified)\s*\(")
 EMPTY_CATCH = re.compile(r"catch\s*\([^)]*\)\s*\{\s*\}")
@@ -44,6 +45,10 @@ def place(path):
 
 def complaint(source, target):
     """What is wrong with `source` including `target`, or None."""
+    if DESIGNED.fullmatch(target):
+        # Compiled from the designed form, which stands beside the class that shows it.
+        form = (SRC / source).parent / (DESIGNED.fullmatch(target).group(1) + ".ui")
+        return None if form.is_file() else f"includes {target} without {form.name} beside it"
     if not (SRC / target).is_file():
         return f"includes {target}, which is not below src/"
     folder, subfolder = place(source)

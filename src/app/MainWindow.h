@@ -3,10 +3,10 @@
 #include "app/Ports.h"
 #include "core/commands/NewProject.h"
 #include "core/fields/Project.h"
-#include "core/wizard/FinalDraftEntry.h"
 #include "editors/binding/FieldGuidance.h"
-#include "editors/pages/PageIntroduction.h"
-#include "editors/pages/PageOperation.h"
+#include "editors/columns/CountTimers.h"
+#include "editors/rules/FieldChangeSteps.h"
+#include "editors/rules/TabWrap.h"
 #include "shell/FormLooks.h"
 #include "shell/FormScreen.h"
 #include "shell/PanelStack.h"
@@ -15,12 +15,12 @@
 namespace quillford {
 
 /// The main form with all that hangs on it, made and joined in the order in which the parts need
-/// each other.
+/// each other. Nothing is shown before the start routine asks for it.
 class MainWindow {
 public:
     /// Owns none of its arguments; all outlive it.
     MainWindow(Project& project, mdlSystem& system, Settings& settings, UserPrompts& prompts,
-               Ports& ports);
+               const Ports& ports);
     ~MainWindow();
 
     [[nodiscard]] frmMain1& form() { return form_; }
@@ -32,9 +32,12 @@ public:
     void showWelcomePage() { navigator_.showWelcomePage(); }
 
 private:
-    void join();
+    void joinFields();
+    void joinNavigation();
+    void joinWindow();
 
     Project& project_;
+    const Ports& ports_;
     FocusOrder focusOrder_;
     frmMain1 form_;
     BoundFields bound_;
@@ -46,6 +49,10 @@ private:
     SectionMessages messages_;
     TabEntry entry_;
     WizardNavigator navigator_;
+    ContactMirror mirror_;
+    FieldChangeSteps steps_;
+    TabWrap wrap_;
+    CountTimers timers_;
     NewProject newProject_;
 };
 
