@@ -249,11 +249,11 @@ TEST_F(FileSettingsStoreTest, what_a_killed_program_left_half_written_is_written
 
 TEST_F(FileSettingsStoreTest, a_file_beyond_the_limit_is_neither_read_nor_written) {
     writeFile(file, Stored);
-    ASSERT_TRUE(QFile::resize(file, FileSettingsStore::MostBytes + 1));
+    ASSERT_TRUE(QFile::resize(file, SharedFile::MostBytes + 1));
     EXPECT_THROW(get(), Error);
     EXPECT_THROW(set(u"new"_s), Error);
     ASSERT_TRUE(QFile::resize(file, Stored.size()));
-    EXPECT_THROW(set(QString(FileSettingsStore::MostBytes, u'x')), Error);
+    EXPECT_THROW(set(QString(SharedFile::MostBytes, u'x')), Error);
     EXPECT_EQ(contentOf(file), Stored);
 }
 
