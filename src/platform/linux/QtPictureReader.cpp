@@ -10,22 +10,26 @@
 namespace quillford {
 
 std::optional<QSize> QtPictureReader::pixelSize(const QString& path) {
+    // Only a picture that really decodes has a size: the header of a damaged one proves nothing.
+    const QImage decoded = picture(path);
+    if (decoded.isNull())
+        return std::nullopt;
+    return decoded.size();
+}
+
+QImage QtPictureReader::picture(const QString& path) {
     constexpr int MegabytesHeld = 256;
     QImageReader::setAllocationLimit(MegabytesHeld);
     // Given a mere name, the reader would also try it with every ending that it knows. Only files
     // are opened: opening a pipe would wait for somebody to write into it.
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return std::nullopt;
+        return {};
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(false);
-    // Only a picture that really decodes has a size: the header of a damaged one proves nothing.
     const QuietErrors quiet;
-    const QImage picture = reader.read();
-    if (picture.isNull())
-        return std::nullopt;
-    return picture.size();
+    return reader.read();
 }
 
 } // namespace quillford

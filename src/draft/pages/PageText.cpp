@@ -1,0 +1,120 @@
+#include "draft/pages/PageText.h"
+
+#include "draft/pages/LongRuns.h"
+#include "draft/pages/RichText.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QTextCursor>
+#include <QUrl>
+
+#include <optional>
+
+namespace quillford {
+
+namespace {
+
+constexpr int UnknownLength = 24;
+constexpr int KeepsWithNextState = 1; // as the style sheets write it
+
+/// Stands in for a picture that cannot be shown.
+QImage frameOf(QSize size) {
+    QImage frame(size, QImage::Format_ARGB32_Premultiplied);
+    frame.fill(Qt::transparent);
+    QPainter painter(&frame);
+    painter.setPen(Qt::gray);
+    painter.drawRect(frame.rect().adjusted(0, 0, -1, -1));
+    return frame;
+}
+
+/// The first picture in a block.
+std::optional<QTextImageFormat> pictureIn(const QTextBlock& block) {
+    for (auto part = block.begin(); !part.atEnd(); ++part)
+        if (part.fragment().charFormat().isImageFormat())
+            return part.fragment().charFormat().toImageFormat();
+    return std::nullopt;
+}
+
+/// Puts a frame in the place of a figure whose picture cannot be read.
+void addFrame(QTextDocument& document, const QTextImageFormat& figure) {
+    const QUrl name(figure.name());
+    if (!isFigure(figure.name()) ||
+        !document.resource(QTextDocument::ImageResource, name).value<QImage>().isNull())
+        return;
+    const auto length = [](qreal given) { return given > 0 ? qRound(given) : UnknownLength; };
+    document.addResource(QTextDocument::ImageResource, name,
+                         frameOf({length(figure.width()), length(figure.height())}));
+}
+
+/// The blanks beside a figure would make its line higher than the figure.
+void shrinkBlanks(const QTextBlock& block) {
+    QTextCursor cursor(block);
+    for (auto part = block.begin(); !part.atEnd(); ++part) {
+        const QTextFragment fragment = part.fragment();
+        if (fragment.charFormat().isImageFormat())
+            continue;
+        cursor.setPosition(fragment.position());
+        cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+        QTextCharFormat small;
+        small.setFontPointSize(1);
+        cursor.mergeCharFormat(small);
+    }
+}
+
+/// A drawing is up to 660 pixels wide and reaches into both margins; the toolkit would let all of
+/// it stand out at the right.
+void centreOnPaper(const QTextBlock& block, double width) {
+    if (width <= PaperTextWidth)
+        return;
+    QTextBlockFormat outwards;
+    outwards.setAlignment(Qt::AlignLeft);
+    outwards.setTextIndent((PaperTextWidth - width) / 2);
+    QTextCursor(block).mergeBlockFormat(outwards);
+}
+
+void separateOnScreen(const QTextBlock& block) {
+    constexpr int Gap = 64;
+    QTextBlockFormat apart;
+    apart.setTopMargin(Gap);
+    QTextCursor(block).mergeBlockFormat(apart);
+}
+
+void finishBlock(QTextDocument& document, const QTextBlock& block, Medium medium) {
+    if (const auto figure = pictureIn(block)) {
+        addFrame(document, *figure);
+        shrinkBlanks(block);
+        if (medium == Medium::Paper)
+            centreOnPaper(block, figure->width());
+    }
+    if (medium == Medium::Screen && beginsPage(block))
+        separateOnScreen(block);
+}
+
+} // namespace
+
+void setPage(QTextDocument& document, const QString& page, PictureLoader& pictures, Medium medium) {
+    const RichText text = richTextOf(page);
+    document.setUndoRedoEnabled(false);
+    document.setDefaultStyleSheet(text.styleSheet);
+    document.setHtml(text.html);
+    for (qsizetype i = 0; i < text.pictures.size(); ++i)
+        document.addResource(QTextDocument::ImageResource, QUrl(pictureName(i)),
+                             pictures.picture(text.pictures[i]));
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        finishBlock(document, block, medium);
+    breakLongRuns(document);
+}
+
+QImage missingPicture() {
+    return frameOf({UnknownLength, UnknownLength});
+}
+
+bool keepsWithNext(const QTextBlock& block) {
+    return block.userState() == KeepsWithNextState;
+}
+
+bool beginsPage(const QTextBlock& block) {
+    return block.blockFormat().pageBreakPolicy().testFlag(QTextFormat::PageBreak_AlwaysBefore);
+}
+
+} // namespace quillford

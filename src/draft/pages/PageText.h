@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/PictureLoader.h"
+
+#include <QImage>
+#include <QString>
+#include <QTextBlock>
+#include <QTextDocument>
+
+namespace quillford {
+
+/// The width of the text on paper, in pixels of 96 to the inch.
+inline constexpr double PaperTextWidth = 6.5 * 96;
+
+/// Where a page is shown: on a screen one page flows into the next, with a gap between them.
+enum class Medium { Screen, Paper };
+
+/// Puts an HTML page into a document of the toolkit's, as a browser would show it; see `RichText`
+/// for what is translated. Sizes are in pixels, 96 to the inch, which the application must be told
+/// (`Qt::AA_Use96Dpi`) for sizes in points to follow. Nothing in the page runs. Its figures are
+/// loaded at once; one that cannot be read leaves a frame of its size.
+void setPage(QTextDocument& document, const QString& page, PictureLoader& pictures, Medium medium);
+
+/// A frame that stands for a picture that is not shown. Who gives a document its pictures answers
+/// with it instead of nothing, or the toolkit would open whatever file the picture's name names.
+[[nodiscard]] QImage missingPicture();
+
+/// Whether the block has to stand on one page with the next one: headings do, and drawings.
+[[nodiscard]] bool keepsWithNext(const QTextBlock& block);
+
+/// Whether the block begins a page on paper.
+[[nodiscard]] bool beginsPage(const QTextBlock& block);
+
+} // namespace quillford

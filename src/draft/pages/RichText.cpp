@@ -1,0 +1,168 @@
+#include "draft/pages/RichText.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QStringView>
+
+namespace quillford {
+
+namespace {
+
+const QString PictureScheme = QStringLiteral("picture:");
+
+QString styleSheet(const QString& name) {
+    QFile file(QStringLiteral(":/pages/") + name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// The pages that the templates make, known by their titles.
+enum class PageKind { Other, Draft, Report };
+
+PageKind kindOf(const QString& page) {
+    const QStringView head = QStringView(page).first(qMax<qsizetype>(page.indexOf(u"</head>"), 0));
+    if (head.contains(u"<title>Error Report</title>"))
+        return PageKind::Report;
+    if (head.contains(u"<title>Project - ") || head.contains(u"<title>Index of Elements</title>"))
+        return PageKind::Draft;
+    return PageKind::Other;
+}
+
+/// Takes the page's own style out of its head.
+void cutStyle(QString& html) {
+    const QStringView close = u"</style>";
+    const qsizetype begin = html.indexOf(u"<style>");
+    const qsizetype end = html.indexOf(close, begin);
+    if (begin >= 0 && end > begin)
+        html.remove(begin, end + close.size() - begin);
+}
+
+/// Gives every figure a name instead of its path, which ends where its width begins, whatever it
+/// holds. A size that is not known is left out.
+void namePictures(RichText& text) {
+    const QStringView before = u"<img src=\"file:///";
+    const QStringView width = u"\" width =\"";
+    const QStringView height = u"\" height =\"";
+    const QStringView after = u"\">";
+    const QString& html = text.html;
+    QString named;
+    qsizetype done = 0;
+    for (qsizetype at = html.indexOf(before); at >= 0; at = html.indexOf(before, done)) {
+        const qsizetype path = at + before.size();
+        const qsizetype pathEnd = html.indexOf(width, path);
+        const qsizetype heightAt = pathEnd < 0 ? -1 : html.indexOf(height, pathEnd + width.size());
+        const qsizetype end = heightAt < 0 ? -1 : html.indexOf(after, heightAt + height.size());
+        if (end < 0)
+            break;
+        named += QStringView(html).sliced(done, at - done);
+        named += QStringLiteral("<img src=\"%1\"").arg(pictureName(text.pictures.size()));
+        text.pictures.append(html.sliced(path, pathEnd - path));
+        const auto addLength = [&](QStringView name, qsizetype from, qsizetype to) {
+            if (to > from)
+                named += QStringLiteral(" %1=\"%2\"")
+                             .arg(name, QStringView(html).sliced(from, to - from));
+        };
+        addLength(u"width", pathEnd + width.size(), heightAt);
+        addLength(u"height", heightAt + height.size(), end);
+        named += u'>';
+        done = end + after.size();
+    }
+    named += QStringView(html).sliced(done);
+    text.html = named;
+}
+
+/// Has the paragraph behind each page break begin a page.
+void markNewPages(QString& html) {
+    static const QRegularExpression newPage(
+        QStringLiteral("<div class=\"new-page\">.*?</div>\\s*<p "));
+    html.replace(newPage, QStringLiteral("<p style=\"page-break-before:always\" "));
+}
+
+/// The objects stand one to a line in one paragraph, and the first line alone would be indented.
+void splitObjects(QString& html) {
+    const QString paragraph = QStringLiteral("<p class=\"objects\">");
+    const qsizetype begin = html.indexOf(paragraph);
+    const qsizetype end = html.indexOf(u"</p>", begin);
+    if (begin < 0 || end < 0)
+        return;
+    QString objects = html.sliced(begin, end - begin);
+    objects.replace(QStringLiteral("<br>"), QStringLiteral("</p>") + paragraph);
+    html.replace(begin, end - begin, objects);
+}
+
+/// A division has no frame of its own: the notice becomes a table of one cell.
+void frameNotice(QString& html) {
+    static const QRegularExpression notice(QStringLiteral("<div class=\"notice\"[^>]*>(.*?)</div>"),
+                                           QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpressionMatch match = notice.match(html);
+    if (!match.hasMatch())
+        return;
+    html.replace(
+        match.capturedStart(), match.capturedLength(),
+        QStringLiteral("<p class=\"space\">&nbsp;</p>"
+                       "<table width=\"100%\" border=\"3\" cellspacing=\"0\" cellpadding=\"12\" "
+                       "style=\"border-style:solid; border-color:black; border-collapse:collapse\">"
+                       "<tr><td class=\"notice\">") +
+            match.captured(1) + QStringLiteral("</td></tr></table><p class=\"space\">&nbsp;</p>"));
+}
+
+/// What stands between two paragraphs would become a blank at the end of the first.
+void cutBetweenParagraphs(QString& html) {
+    static const QRegularExpression between(QStringLiteral("</p>\\s+(?=<)"));
+    html.replace(between, QStringLiteral("</p>"));
+}
+
+/// Gives height to what the toolkit leaves out: rules, line breaks between paragraphs, and empty
+/// lines of the index. The breaks between two drawings have none in a browser either.
+void keepEmptyLines(QString& html) {
+    static const QRegularExpression betweenDrawings(
+        QStringLiteral("<br><br>(\\s*<p class=\"drawing\">)"));
+    static const QRegularExpression betweenParagraphs(
+        QStringLiteral("(</p>\\s*)<br>(?=\\s*<p class=)"));
+    static const QRegularExpression emptyElement(
+        QStringLiteral("<p class=\"element\">(?:<b></b>)?</p>"));
+    html.replace(betweenDrawings, QStringLiteral("\\1"));
+    html.replace(betweenParagraphs, QStringLiteral("\\1<p>&nbsp;</p>"));
+    html.replace(emptyElement, QStringLiteral("<p class=\"element\">&nbsp;</p>"));
+    html.replace(QStringLiteral("<hr>"), QStringLiteral("<p class=\"rule\">&nbsp;</p>"));
+}
+
+/// Says of every paragraph how its lines stand, as the toolkit does not read it in a style sheet.
+void alignParagraphs(QString& html, PageKind kind) {
+    static const QRegularExpression centred(
+        QStringLiteral("(class=\"(?:file-number|notice-head|application|document-kind|section|"
+                       "subsection|drawing|figure|centred)\")>"));
+    static const QRegularExpression plain(QStringLiteral("<p((?: (?![^>]*align=)[^>]*)?)>"));
+    html.replace(centred, QStringLiteral("align=\"center\" \\1>"));
+    if (kind == PageKind::Draft)
+        html.replace(plain, QStringLiteral("<p align=\"justify\"\\1>"));
+}
+
+} // namespace
+
+QString pictureName(qsizetype index) {
+    return PictureScheme + QString::number(index);
+}
+
+bool isFigure(const QString& name) {
+    return name.startsWith(PictureScheme);
+}
+
+RichText richTextOf(const QString& page) {
+    const PageKind kind = kindOf(page);
+    RichText text{page, {}, {}};
+    if (kind == PageKind::Other)
+        return text;
+    text.styleSheet = styleSheet(kind == PageKind::Report ? QStringLiteral("report.css")
+                                                          : QStringLiteral("draft.css"));
+    cutStyle(text.html);
+    namePictures(text);
+    markNewPages(text.html);
+    splitObjects(text.html);
+    frameNotice(text.html);
+    keepEmptyLines(text.html);
+    cutBetweenParagraphs(text.html);
+    alignParagraphs(text.html, kind);
+    return text;
+}
+
+} // namespace quillford
