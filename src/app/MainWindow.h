@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Interim.h"
 #include "app/Ports.h"
 #include "core/commands/NewProject.h"
 #include "core/fields/Project.h"
@@ -44,6 +45,10 @@ private:
     PanelStack pages_;
     FormScreen projectScreen_;
     FieldGuidance guidance_;
+    InterimColumns columns_;
+    InterimIndex index_;
+    InterimAuto autoSave_;
+    InterimStore store_;
     WizardScreen screen_;
     SectionRules rules_;
     SectionMessages messages_;

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "app/MainWindow.h"
-#include "core/commands/StartStage.h"
+#include "core/commands/ProgramStart.h"
 #include "core/settings/FileAssociation.h"
 #include "core/settings/Settings.h"
 #include "platform/linux/FileSettingsStore.h"
+#include "platform/linux/HunspellEngine.h"
 #include "platform/linux/LinuxFolders.h"
 #include "platform/linux/QtClock.h"
 #include "platform/linux/QtPictureReader.h"
@@ -50,6 +51,7 @@ private:
     QtClock clock_;
     QtPictureReader pictures_;
     QtTextMeasure measure_;
+    HunspellEngine spelling_;
     XdgFileTypes fileTypes_;
     FileAssociation association_;
     QtUserPrompts prompts_;

@@ -24,6 +24,7 @@ HelpPane::HelpPane(QWidget& form, const QString& appFolder)
       backArea_(form.findChild<ClickLabel*>(QStringLiteral("lblBackClick"))),
       print_(form.findChild<Picture*>(QStringLiteral("imgHelpPrint"))),
       hand_(handCursor()) {
+    view_->setFrameShape(QFrame::NoFrame);
     connect(view_, &HtmlView::pageLoaded, this, &HelpPane::pageLoaded);
     connect(backPicture_, &ClickLabel::clicked, this, &HelpPane::goBack);
     connect(backArea_, &ClickLabel::clicked, this, &HelpPane::goBack);
@@ -31,7 +32,7 @@ HelpPane::HelpPane(QWidget& form, const QString& appFolder)
 }
 
 void HelpPane::HelpOn(int tab) {
-    view_->openPage(QStringLiteral("%1Section %2/index.htm").arg(folder_).arg(tab + 1));
+    view_->setSource(QStringLiteral("%1Section %2/index.htm").arg(folder_).arg(tab + 1));
 }
 
 void HelpPane::pageLoaded(const QString& address) {
@@ -52,7 +53,7 @@ void HelpPane::pageLoaded(const QString& address) {
 
 void HelpPane::goBack() {
     if (!isStartPage(view_->address()))
-        view_->goBack();
+        view_->back();
 }
 
 } // namespace quillford

@@ -35,6 +35,9 @@ WelcomePage::WelcomePage(QWidget& form)
     large.setPixelSize(22);
     designed.lblWelcome->setFont(large);
     theme::colour(*designed.lblWelcome, theme::Heading);
+    for (QLabel* text : {designed.lblWelcomeText, designed.lblWelcomeHelp_0,
+                         designed.lblWelcomeService_3, designed.lblWelcomeService_4})
+        text->setFont(theme::fieldFont());
     more_ = designed.imgMoreObjects;
     rows_.append(designed.lblRecentPatents_0);
     for (ClickLabel* command : {rows_.first(), more_})
