@@ -4,6 +4,7 @@
 #include "support/Files.h"
 #include "support/PrintQt.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -11,6 +12,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
 #include <QWheelEvent>
 
 using namespace quillford;
@@ -240,4 +242,22 @@ TEST_F(HtmlViewTest, a_composed_page_shows_its_figures_in_their_sizes) {
         high += shot.pixelColor(200, y) == QColor(Qt::black) ? 1 : 0;
     EXPECT_EQ(wide, 120);
     EXPECT_EQ(high, 80);
+}
+
+TEST_F(HtmlViewTest, every_line_of_a_composed_page_has_its_place) {
+    const QString text = u"<p class=\"text\">"_s + u"words "_s.repeated(150) + u"</p>"_s;
+    const QString drawing =
+        u"<p class=\"drawing\"><img src=\"file:///x\" width =\"90\" height =\"90\"></p>"_s;
+    const QString part = u"<div class=\"new-page\"><br></div><p class=\"section\">HEAD</p>"_s +
+                         text + drawing + text;
+    view.showHtml(u"<head><title>Project - 1</title></head>"_s + part.repeated(60), pictures);
+    QCoreApplication::processEvents();
+    double bottom = 0;
+    for (QTextBlock block = view.document()->begin(); block.isValid(); block = block.next()) {
+        const QRectF place = view.document()->documentLayout()->blockBoundingRect(block);
+        EXPECT_GT(place.height(), 8) << block.blockNumber();
+        EXPECT_GE(place.top(), bottom - 1) << block.blockNumber();
+        bottom = place.bottom();
+    }
+    EXPECT_EQ(view.document()->blockCount(), 240);
 }

@@ -33,12 +33,10 @@ QList<int> breaksIn(const QString& text) {
 void breakLongRuns(QTextDocument& document) {
     const QList<int> breaks = breaksIn(document.toRawText());
     QTextCursor cursor(&document);
-    cursor.beginEditBlock();
     for (auto at = breaks.crbegin(); at != breaks.crend(); ++at) {
         cursor.setPosition(*at);
         cursor.insertText(QString(QChar(0x200B)));
     }
-    cursor.endEditBlock();
 }
 
 } // namespace quillford

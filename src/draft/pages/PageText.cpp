@@ -100,9 +100,12 @@ void setPage(QTextDocument& document, const QString& page, PictureLoader& pictur
     for (qsizetype i = 0; i < text.pictures.size(); ++i)
         document.addResource(QTextDocument::ImageResource, QUrl(pictureName(i)),
                              pictures.picture(text.pictures[i]));
+    QTextCursor edit(&document);
+    edit.beginEditBlock(); // a document on screen is laid out anew at the end of the block, once
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
         finishBlock(document, block, medium);
     breakLongRuns(document);
+    edit.endEditBlock();
 }
 
 QImage missingPicture() {
