@@ -36,6 +36,11 @@ QSize computeFigureSize(QSize pixels) {
     return {MaxWidth, rounded(double{MaxWidth} * MaxHeight / widthAtMaxHeight)};
 }
 
+QString figureSizeText(QSize pixels) {
+    const QSize size = computeFigureSize(pixels);
+    return QStringLiteral("%1, %2").arg(size.width()).arg(size.height());
+}
+
 QString figurePath(const ProjectFields& fields, int index) {
     const Field& attached = fields.txtAttachFig(index);
     if (attached.isFilled() && QFileInfo(attached.text()).isFile())
@@ -45,9 +50,7 @@ QString figurePath(const ProjectFields& fields, int index) {
 
 void measureFigure(ProjectFields& fields, int index, const QString& path, PictureReader& pictures) {
     const auto pixels = pictures.pixelSize(path);
-    const QSize size = pixels ? computeFigureSize(*pixels) : QSize();
-    fields.figureState(index).sizeText =
-        pixels ? QStringLiteral("%1, %2").arg(size.width()).arg(size.height()) : QString();
+    fields.figureState(index).sizeText = pixels ? figureSizeText(*pixels) : QString();
 }
 
 void measureFigures(ProjectFields& fields, PictureReader& pictures) {

@@ -12,6 +12,9 @@ namespace quillford {
 /// is scaled as if the height were 810, and the height is 660. Fractions are rounded half to even.
 [[nodiscard]] QSize computeFigureSize(QSize pixels);
 
+/// That size as it stands beside a figure: "660, 495".
+[[nodiscard]] QString figureSizeText(QSize pixels);
+
 /// Puts the draft size of every figure with an attached picture beside its field, as "width,
 /// height". The picture is the file named in `txtAttachFig(i)`, or the working copy where that file
 /// is gone; the size of one that cannot be read is emptied. A figure without an attached picture

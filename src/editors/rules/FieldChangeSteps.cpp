@@ -18,10 +18,6 @@ bool isLanguage(const FieldRow& row) {
     return isText && row.id != FieldId::txtAttachFig;
 }
 
-bool isInIndexByFocus(const FieldRow& row) {
-    return row.group == FieldGroup::SubElements;
-}
-
 } // namespace
 
 FieldChangeSteps::FieldChangeSteps(ProjectFields& fields, const ProjectState& state,
@@ -56,7 +52,8 @@ void FieldChangeSteps::clicked(FieldPlace place) {
 void FieldChangeSteps::focusLost(FieldPlace place) {
     if (place.field == FieldId::cboStateStep1)
         contact_.cboStateStep1_LostFocus();
-    if (isInIndexByFocus(fieldRow(place.field)) && fields_.at(place.field, place.index).isChanged())
+    if (fieldRow(place.field).group == FieldGroup::SubElements &&
+        fields_.at(place.field, place.index).isChanged())
         index_.RebuildElementIndex();
 }
 
