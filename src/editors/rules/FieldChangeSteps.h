@@ -10,8 +10,8 @@ namespace quillford {
 
 /// What every change of a field sets off, in this order: it is shown, its partner takes the text,
 /// its tint goes when there is text, the spell checker is bound to it from its second word on, and
-/// then what this field alone needs. A text that is written by the program, a mirror or a load,
-/// goes through the same steps.
+/// then comes what this field alone needs. A text that is written by the program, a mirror or a
+/// load, goes through the same steps.
 class FieldChangeSteps final : public FieldObserver {
 public:
     /// Owns none of its arguments; all outlive it. Whoever makes it names it to the fields as their

@@ -46,6 +46,31 @@ std::optional<PanelTarget> moveUnlessVisible(Fit fit, int bottom, int end, int p
 
 } // namespace
 
+std::optional<EditorColumn> columnFollowing(FieldId field) {
+    const FieldRow& row = fieldRow(field);
+    switch (row.group) {
+    case FieldGroup::Inventors: // their lists are reached with the text before them
+        return row.kind == FieldKind::Text ? std::optional(EditorColumn::Inventors) : std::nullopt;
+    case FieldGroup::Objects:
+        return EditorColumn::Objects;
+    case FieldGroup::Figures: // a path is not typed
+        return field == FieldId::txtAttachFig ? std::nullopt : std::optional(EditorColumn::Figures);
+    case FieldGroup::MainElements:
+        return EditorColumn::MainElements;
+    case FieldGroup::SubElements:
+        return EditorColumn::SubElements;
+    case FieldGroup::Descriptions:
+        return EditorColumn::Descriptions;
+    case FieldGroup::Single:
+        break;
+    }
+    if (field == FieldId::chkSameAsContact)
+        return EditorColumn::Inventors;
+    const bool isBelowDescriptions =
+        field == FieldId::txtDesConnections || field == FieldId::txtDesAlterative;
+    return isBelowDescriptions ? std::optional(EditorColumn::Descriptions) : std::nullopt;
+}
+
 std::optional<PanelTarget> FollowTab(EditorColumn column, const ColumnPlace& place,
                                      FocusedControl control) {
     const int end = control.top + control.height;

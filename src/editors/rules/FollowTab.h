@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/fields/FieldTable.h"
 #include "editors/rules/EditorColumn.h"
 
 #include <QList>
@@ -9,6 +10,10 @@
 /// How the view follows the Tab key from field to field. The rules hold while the key is down:
 /// focus set by the mouse or by the program moves nothing. All lengths are logical pixels.
 namespace quillford {
+
+/// The column that follows the Tab key when it reaches this field; nothing for a field that no view
+/// follows. Beside fields, the button `imgBrowse(i)` is followed in the column of figures.
+[[nodiscard]] std::optional<EditorColumn> columnFollowing(FieldId field);
 
 /// The field that the Tab key has reached: its place in its panel, and the panel's index.
 struct FocusedControl {

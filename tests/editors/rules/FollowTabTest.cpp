@@ -22,6 +22,28 @@ constexpr std::optional<PanelTarget> Nothing;
 
 } // namespace
 
+TEST(FollowTab, each_column_follows_its_own_fields) {
+    EXPECT_EQ(columnFollowing(FieldId::txtZipStep2), EditorColumn::Inventors);
+    EXPECT_EQ(columnFollowing(FieldId::chkSameAsContact), EditorColumn::Inventors);
+    EXPECT_EQ(columnFollowing(FieldId::txtObject), EditorColumn::Objects);
+    EXPECT_EQ(columnFollowing(FieldId::cboFigureType), EditorColumn::Figures);
+    EXPECT_EQ(columnFollowing(FieldId::txtFigureDetail), EditorColumn::Figures);
+    EXPECT_EQ(columnFollowing(FieldId::txtElementDes), EditorColumn::MainElements);
+    EXPECT_EQ(columnFollowing(FieldId::txtElementMain), EditorColumn::SubElements);
+    EXPECT_EQ(columnFollowing(FieldId::txtElementSub9), EditorColumn::SubElements);
+    EXPECT_EQ(columnFollowing(FieldId::txtMainElementVariations), EditorColumn::Descriptions);
+    EXPECT_EQ(columnFollowing(FieldId::txtDesConnections), EditorColumn::Descriptions);
+    EXPECT_EQ(columnFollowing(FieldId::txtDesAlterative), EditorColumn::Descriptions);
+}
+
+TEST(FollowTab, no_view_follows_the_inventors_lists_counts_paths_and_fields_without_a_column) {
+    for (const FieldId field :
+         {FieldId::cboStateStep2, FieldId::cboCitizenshipStep2, FieldId::cboInventorsNum,
+          FieldId::txtAttachFig, FieldId::txtPurpose, FieldId::txtMainElement,
+          FieldId::txtOperation, FieldId::txtFileNo})
+        EXPECT_EQ(columnFollowing(field), std::nullopt);
+}
+
 TEST(FollowTab, a_field_in_view_moves_nothing) {
     const ColumnPlace inventors = stacked({270, 246}, 0);
     EXPECT_EQ(FollowTab(EditorColumn::Inventors, inventors, {30, 20, 0}), Nothing);
