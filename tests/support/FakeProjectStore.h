@@ -3,6 +3,8 @@
 #include "core/commands/ProjectStore.h"
 #include "support/CallLog.h"
 
+#include <QStringList>
+
 namespace quillford {
 
 /// Files and a recent list that are only asked for. `answers` is what every call that can say no
@@ -12,6 +14,7 @@ public:
     explicit FakeProjectStore(CallLog& log) : log_(log) {}
 
     bool answers = true;
+    QStringList entries;
 
     bool SaveFile() override { return ask("SaveFile"); }
 
@@ -36,6 +39,8 @@ public:
     void resetRecentCounters() override { log_.take("reset recent counters"); }
 
     void reloadRecentProjects() override { log_.take("reload recent projects"); }
+
+    QString recentEntry(int number) const override { return entries.value(number - 1); }
 
 private:
     bool ask(const std::string& call) {

@@ -103,6 +103,8 @@ public:
 
     void scrollDescriptionsToTop() override { log_.take("descriptions to top"); }
 
+    void showPicture(int index) override { log_.take(callText("show picture", index)); }
+
     void removePicture(int index) override { log_.take(callText("remove picture", index)); }
 
     // Guidance

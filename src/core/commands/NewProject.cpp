@@ -82,6 +82,7 @@ void NewProject::forgetFile() {
         name->clear();
     state.isDraftProject = false;
     state.isRecovered = false;
+    state.isRefused = false;
 }
 
 /// Comes before the other defaults, since an inventor who is hidden loses his state, and before the

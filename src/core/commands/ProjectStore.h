@@ -22,7 +22,8 @@ public:
     /// when there is no such project; the user has been told then, and the open one stays.
     virtual bool OpenFile(const QString& argument) = 0;
 
-    /// Deletes the working copy `draftFileName`, if it lies in the folder for drafts.
+    /// Deletes the working copy `draftFileName`, if it lies in the folder for drafts, and empties
+    /// the name.
     virtual void deleteDraft() = 0;
 
     /// The same for a project that the user gives up, and takes its entry off the recent list.
@@ -48,6 +49,9 @@ public:
 
     /// Reads the recent list and shows it anew.
     virtual void reloadRecentProjects() = 0;
+
+    /// The entry behind a row of the recent list, 1 to 5; empty for a row without one.
+    [[nodiscard]] virtual QString recentEntry(int number) const = 0;
 };
 
 } // namespace quillford

@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "core/settings/FileNames.h"
+#include "core/settings/PathParts.h"
 
 #include <algorithm>
 #include <array>
@@ -59,6 +60,20 @@ QString SaveDialog::ask(const QString& extension) {
     }
     const QString path = prompts_.chooseFileToSave(question);
     return path.isEmpty() || hasEnding(path, ending) ? path : path + ending;
+}
+
+QString SaveDialog::askForProject() {
+    QString path = ask(QStringLiteral("ivd"));
+    while (isDraftPath(path)) {
+        prompts_.showMessage(
+            UserPrompts::Icon::None, QStringLiteral("Potential Data Loss Detected!"),
+            QStringLiteral("It looks like you may be trying to save your project in the temporary "
+                           "\"Drafts\" folder, which means you may experience data loss. It is "
+                           "highly recommended you save projects in the \"Projects\" folder "
+                           "only."));
+        path = ask(QStringLiteral("ivd"));
+    }
+    return path;
 }
 
 QString SaveDialog::proposedName(const QString& prefix, const QString& ending,

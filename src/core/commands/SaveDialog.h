@@ -23,6 +23,10 @@ public:
     /// dialog's own proposal, which ends in "html". Empty when the user cancels.
     [[nodiscard]] QString ask(const QString& extension);
 
+    /// Asks for the file of a project, again and again while the user chooses one among the working
+    /// copies, which is told to be no safe place. Empty when the user cancels.
+    [[nodiscard]] QString askForProject();
+
 private:
     [[nodiscard]] QString proposedName(const QString& prefix, const QString& ending,
                                        const QString& freeExtension);

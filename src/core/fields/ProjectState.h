@@ -30,15 +30,20 @@ struct ProjectState {
     /// True while the fields are cleared for a new project: what follows a change by the user does
     /// not follow then.
     bool resetting = false;
-    /// True for the length of opening a project.
+    /// True for the length of opening a project. Stays set after a file that was not found.
     bool isOpening = false;
     /// True while the fields take what was read from a file: no field changes but the one that is
     /// read.
     bool isLoading = false;
+    /// True while the timer saves: the project still counts as changed after it.
+    bool isAutoSaving = false;
     /// The project is a working copy that was left by an earlier run.
     bool isDraftProject = false;
     /// The project was open when an earlier run ended without closing it.
     bool isRecovered = false;
+    /// `projectFileName` is a file that was refused when it was to be opened. Only a save that the
+    /// user asks for writes it.
+    bool isRefused = false;
     /// Exports leave out the verification while this is true. Only a project that is read sets it.
     bool verifyPassed = false;
 

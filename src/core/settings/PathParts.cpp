@@ -11,4 +11,12 @@ QString getFolderOf(const QString& path) {
     return path.first(std::max(slash, path.lastIndexOf(u'\\')) + 1);
 }
 
+bool isDraftPath(const QString& path) {
+    return path.contains(QStringLiteral("/Drafts/"));
+}
+
+bool isProvisionalDraftPath(const QString& path) {
+    return path.contains(QStringLiteral("/Drafts/Provisional Project"));
+}
+
 } // namespace quillford

@@ -19,4 +19,7 @@ inline constexpr QStringView ShowMsgFigure = u"showmsgFigure";
 inline constexpr QStringView ShowMsgUpdate = u"showMsgUpdate";
 inline constexpr QStringView LastDir = u"LastDir";
 
+/// The recent projects are "file1", the newest, to "file5".
+inline constexpr QStringView RecentFile = u"file";
+
 } // namespace quillford::settingsNames

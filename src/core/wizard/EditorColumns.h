@@ -33,6 +33,10 @@ public:
     /// Scrolls the page of Section 7 to its top.
     virtual void scrollDescriptionsToTop() = 0;
 
+    /// Shows the picture of a figure, as it lies in its working copy, in the figure's panel, and
+    /// hides `lblNoFigure(index)`. A picture that cannot be read leaves the panel without one.
+    virtual void showPicture(int index) = 0;
+
     /// Takes the picture away from the panel of a figure, `imgFigure(index)`, and shows
     /// `lblNoFigure(index)` in its place. The figure's fields and state stay.
     virtual void removePicture(int index) = 0;

@@ -43,7 +43,8 @@ protected:
         state.shadowFileName = u"/home/ann/shadow.ivd"_s;
         state.realFileName = u"/home/ann/easel.ivd"_s;
         state.draftFileName = u"/home/ann/draft.ivd"_s;
-        state.isDraftProject = state.isRecovered = state.draftCurrent = state.saveFlag = true;
+        state.isDraftProject = state.isRecovered = state.isRefused = true;
+        state.draftCurrent = state.saveFlag = true;
         state.fileOrigin = u"open"_s;
         system.tabSwitchCount = 12;
     }
@@ -159,6 +160,7 @@ TEST_F(NewProjectTest, forgets_every_file_of_the_old_project_at_once) {
                       u"");
             EXPECT_FALSE(state.isDraftProject);
             EXPECT_FALSE(state.isRecovered);
+            EXPECT_FALSE(state.isRefused);
         }
     };
     newProject.NewFile();

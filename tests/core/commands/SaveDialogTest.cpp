@@ -130,3 +130,19 @@ TEST_F(SaveDialogTest, a_file_number_with_a_separator_stays_within_the_folder) {
     fields.txtFileNo.setText(u"../2026/7"_s);
     EXPECT_EQ(proposal(u"ivd"_s), u"Project - ..-2026-7.ivd");
 }
+
+TEST_F(SaveDialogTest, a_project_among_the_working_copies_is_refused_until_another_is_chosen) {
+    prompts.filesToSave = {u"/home/ann/Quillford/Drafts/a.ivd"_s, u"/x/Drafts/b"_s,
+                           u"/home/ann/Quillford/Projects/a.ivd"_s};
+    EXPECT_EQ(dialog.askForProject(), u"/home/ann/Quillford/Projects/a.ivd");
+    const FakePrompts::Box warning{
+        UserPrompts::Icon::None, u"Potential Data Loss Detected!"_s,
+        u"It looks like you may be trying to save your project in the temporary \"Drafts\" folder, which means you may experience data loss. It is highly recommended you save projects in the \"Projects\" folder only."_s};
+    EXPECT_EQ(prompts.boxes, std::vector({warning, warning}));
+}
+
+TEST_F(SaveDialogTest, a_user_who_is_refused_may_cancel) {
+    prompts.filesToSave = {u"/home/ann/Quillford/Drafts/a.ivd"_s, {}};
+    EXPECT_EQ(dialog.askForProject(), u"");
+    EXPECT_EQ(prompts.boxes.size(), 1U);
+}
