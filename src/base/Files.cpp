@@ -2,7 +2,10 @@
 
 #include "base/Error.h"
 
+#include <QSaveFile>
+
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -36,6 +39,21 @@ void writeAll(QFileDevice& file, const QByteArray& bytes, const QString& path) {
             raiseFileError(file, path);
         written += count;
     }
+}
+
+void replaceFile(const QString& path, const QByteArray& bytes) {
+    QSaveFile file(path);
+    // Without a buffer: `commit` would not look at what becomes of the bytes that are left in it.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        raiseFileError(file, path);
+    writeAll(file, bytes, path);
+    if (!file.commit())
+        raiseFileError(file, path);
+}
+
+void takePlaceOf(const QString& made, const QString& path) {
+    if (std::rename(QFile::encodeName(made).constData(), QFile::encodeName(path).constData()) != 0)
+        throw Error(errno, QString::fromLocal8Bit(strerror(errno)), path);
 }
 
 void openPlainFile(QFile& file, const QString& path) {

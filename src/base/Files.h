@@ -18,6 +18,15 @@ namespace quillford {
 /// `path` when they do not all find room; a part of them may be written then.
 void writeAll(QFileDevice& file, const QByteArray& bytes, const QString& path);
 
+/// Makes the file `path` hold these bytes and nothing else. They are written beside it and to the
+/// disk before they take its place, so that it is the old file or the new one at any moment. Raises
+/// `Error` whose source is `path`; the old file stays then.
+void replaceFile(const QString& path, const QByteArray& bytes);
+
+/// Gives the file `made` the place of `path` in one step, whatever stands there. Both are on one
+/// file system. Raises `Error` whose source is `path`.
+void takePlaceOf(const QString& made, const QString& path);
+
 /// Opens the file `path` without a buffer, for writing at its start, and makes it if it is missing.
 /// It is not emptied. Meant for folders in which others may have put things: a link is not
 /// followed, and anything but a plain file is refused. Raises `Error` naming the file.

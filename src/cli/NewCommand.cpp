@@ -7,24 +7,14 @@
 #include "persistence/project/JsonReader.h"
 #include "persistence/project/ProjectWriter.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
-
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 
 namespace quillford {
 
 namespace {
 
 constexpr int EmptyPicture = 9; // as a save of such a picture fails
-
-[[noreturn]] void raiseSystemError(const QString& path) {
-    throw Error(errno, QString::fromLocal8Bit(std::strerror(errno)), path);
-}
 
 /// A picture that is not there, or has no bytes, is told by its own name before anything is made.
 void requirePictures(const ProjectFields& fields) {
@@ -38,17 +28,6 @@ void requirePictures(const ProjectFields& fields) {
             throw Error(EmptyPicture, QStringLiteral("the picture holds no bytes"),
                         picture.fileName());
     }
-}
-
-/// Writes the project beside its place, which it takes when it is whole.
-void writeWhole(const Project& project, const QString& path, UserPrompts& prompts) {
-    const QTemporaryDir beside(QFileInfo(path).absolutePath() + QStringLiteral("/.new-XXXXXX"));
-    if (!beside.isValid())
-        throw Error(ENOENT, beside.errorString(), path);
-    const QString made = beside.filePath(QStringLiteral("project.ivd"));
-    ProjectWriter(project, prompts).write(made, ProjectWriter::Durability::OnDisk);
-    if (std::rename(QFile::encodeName(made).constData(), QFile::encodeName(path).constData()) != 0)
-        raiseSystemError(path);
 }
 
 } // namespace
@@ -70,7 +49,9 @@ ExitStatus NewCommand::execute(const QCommandLineParser& parser, CliContext& con
     places.keepPictures(project.fields);
     places.take(out, QStringLiteral("new"));
     CliPrompts prompts(context.errors);
-    about(out, [&] { writeWhole(project, out, prompts); });
+    about(out, [&] {
+        ProjectWriter(project, prompts).writeNew(out, ProjectWriter::Durability::OnDisk);
+    });
     return ExitStatus::Done;
 }
 

@@ -48,10 +48,7 @@ QString Settings::regRead(const SettingsValues& values, Hive hive, QStringView k
 
 QString Settings::regRead(Hive hive, QStringView key, QStringView valueName) const {
     QString text;
-    silently([&] {
-        store_.look(
-            [&](const SettingsValues& values) { text = regRead(values, hive, key, valueName); });
-    });
+    look([&](const SettingsValues& values) { text = regRead(values, hive, key, valueName); });
     return text;
 }
 
@@ -65,11 +62,12 @@ void Settings::regDelete(Hive hive, QStringView key, QStringView valueName) {
 
 bool Settings::regKeyExists(QStringView name) const {
     bool exists = false;
-    silently([&] {
-        store_.look(
-            [&](const SettingsValues& values) { exists = values.hasKey(Hive::ClassesRoot, name); });
-    });
+    look([&](const SettingsValues& values) { exists = values.hasKey(Hive::ClassesRoot, name); });
     return exists;
+}
+
+void Settings::look(const SettingsStore::Look& step) const {
+    silently([&] { store_.look(step); });
 }
 
 void Settings::change(const SettingsStore::Change& step) {

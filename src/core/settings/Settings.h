@@ -34,6 +34,10 @@ public:
     /// Whether a key of that name exists under `Hive::ClassesRoot`.
     [[nodiscard]] bool regKeyExists(QStringView name) const;
 
+    /// Reads several values as they stand at one moment: see `SettingsStore::look`. The step is not
+    /// called when the store cannot be read; it raises nothing.
+    void look(const SettingsStore::Look& step) const;
+
     /// Reads, shifts and writes several values as one step, between which no other program comes:
     /// see `SettingsStore::change`. The step is not called when the store cannot be read, and what
     /// it wrote is dropped without a word when the store cannot be written; it raises nothing.

@@ -4,8 +4,6 @@
 #include "base/Files.h"
 #include "draft/template/BlockSearch.h"
 
-#include <QSaveFile>
-
 namespace quillford {
 
 namespace {
@@ -42,13 +40,7 @@ bool HTMLTemplate::Load(const QString& name, const QString& path) {
 }
 
 void HTMLTemplate::SaveAs(const QString& path, const QString& text) const {
-    QSaveFile file(path);
-    // Without a buffer: `commit` would not look at what becomes of the bytes that are left in it.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        raiseFileError(file);
-    writeAll(file, text.toUtf8() + "\r\n", path);
-    if (!file.commit())
-        raiseFileError(file);
+    replaceFile(path, text.toUtf8() + "\r\n");
 }
 
 void HTMLTemplate::SetItem(const QString& name, const QString& value, bool append) {

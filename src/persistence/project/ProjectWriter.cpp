@@ -6,6 +6,9 @@
 #include "persistence/compound/mdlStorage.h"
 #include "persistence/project/ProjectFileFormat.h"
 
+#include <QFileInfo>
+#include <QTemporaryDir>
+
 #include <algorithm>
 #include <limits>
 
@@ -15,6 +18,7 @@ namespace {
 
 constexpr qint64 SubscriptOutOfRange = 9;
 constexpr qint64 Overflow = 6;
+constexpr qint64 PathFileAccess = 75;
 
 Stream createStream(Storage& storage, const QString& name) {
     return storage.CreateStream(name, StorageMode::Exclusive);
@@ -47,6 +51,15 @@ void ProjectWriter::write(const QString& path, Durability durability) {
     write(root);
     if (durability == Durability::OnDisk)
         root.Sync();
+}
+
+void ProjectWriter::writeNew(const QString& path, Durability durability) {
+    const QTemporaryDir beside(QFileInfo(path).absolutePath() + QStringLiteral("/.new-XXXXXX"));
+    if (!beside.isValid())
+        throw Error(PathFileAccess, beside.errorString(), path);
+    const QString made = beside.filePath(QStringLiteral("project.ivd"));
+    write(made, durability);
+    takePlaceOf(made, path);
 }
 
 void ProjectWriter::write(Storage& root) {

@@ -26,6 +26,10 @@ public:
     /// cannot be read; the streams written so far are new then, the others old, and the file opens.
     void write(const QString& path, Durability durability);
 
+    /// Writes the project into a new file that takes the place of `path` when it is whole, whatever
+    /// stands there. Raises as the other; what stood there stays then.
+    void writeNew(const QString& path, Durability durability);
+
     /// Writes the project into the root of an open file, without its property sets, and commits it.
     /// Raises as the other; nothing is synced.
     void write(Storage& root);

@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QXmlStreamWriter>
 
@@ -34,13 +33,7 @@ QByteArray mimePackage(const FileType& type) {
 
 void writeWhole(const QString& path, const QByteArray& bytes) {
     QDir().mkpath(QFileInfo(path).path());
-    QSaveFile file(path);
-    // With a buffer the file would be put in its place even where the disk had no room for it.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        raiseFileError(file, path);
-    writeAll(file, bytes, path);
-    if (!file.commit())
-        raiseFileError(file, path);
+    replaceFile(path, bytes);
 }
 
 } // namespace

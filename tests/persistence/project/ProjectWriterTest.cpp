@@ -195,3 +195,35 @@ TEST_F(ProjectWriter_, raises_for_a_folder_that_is_not_there) {
               0x80030003);
     EXPECT_FALSE(QFileInfo::exists(path));
 }
+
+TEST_F(ProjectWriter_, a_new_file_takes_nothing_over_from_the_one_in_its_place) {
+    Project project;
+    attachFigures(project, 2);
+    write(project);
+    const Project small;
+    ProjectWriter(small, prompts).writeNew(file(), ProjectWriter::Durability::OnDisk);
+    Storage root = OpenStorageFile(file());
+    EXPECT_EQ(root.OpenStorage(u"Pictures"_s, StorageMode::Exclusive).Elements().Count(), 0);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
+              QStringList({u"fig0.png"_s, u"fig1.png"_s, u"project.ivd"_s, u"temp"_s}));
+}
+
+TEST_F(ProjectWriter_, a_new_file_takes_the_place_of_one_that_is_no_project) {
+    makeFile(u"project.ivd"_s, "letters");
+    const Project project;
+    ProjectWriter(project, prompts).writeNew(file(), ProjectWriter::Durability::Flushed);
+    EXPECT_EQ(texts(u"Section Version"_s, 1), QStringList({u"3.1"_s}));
+}
+
+TEST_F(ProjectWriter_, a_new_file_that_fails_leaves_the_one_in_its_place) {
+    makeFile(u"project.ivd"_s, "letters");
+    Project project;
+    attachFigures(project, 1);
+    writeFile(project.fields.txtAttachFig(0).text());
+    errorOf([&] {
+        ProjectWriter(project, prompts).writeNew(file(), ProjectWriter::Durability::Flushed);
+    });
+    EXPECT_EQ(contentOf(file()), "letters");
+    EXPECT_EQ(QDir(folder.path()).entryList({u".new*"_s}, QDir::AllEntries | QDir::Hidden).size(),
+              0);
+}

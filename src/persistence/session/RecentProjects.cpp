@@ -1,0 +1,251 @@
+#include "persistence/session/RecentProjects.h"
+
+#include "core/settings/SettingsNames.h"
+#include "persistence/project/WorkingCopies.h"
+
+namespace quillford {
+
+namespace {
+
+const QString OpenMarker = QStringLiteral("|FILEOPEN");
+const QString Recovered = QStringLiteral(" (RECOVERED FILE)");
+const QString Provisional = QStringLiteral("Provisional Project");
+
+enum Part { PathPart, NumberPart, TitlePart, MarkerPart };
+
+QString part(const QString& entry, Part which) {
+    return entry.section(u'|', which, which);
+}
+
+bool hasPart(const QString& entry, Part which) {
+    return entry.count(u'|') >= which;
+}
+
+QString withoutMarker(QString entry) {
+    return entry.remove(OpenMarker);
+}
+
+QString recoveredSuffix(const QString& entry, bool inSession) {
+    return hasPart(entry, MarkerPart) && !inSession ? Recovered : QString();
+}
+
+QString recoveredName(int& number) {
+    return QStringLiteral("Project - %1 Recovered").arg(number++);
+}
+
+QString nameOfProject(const QString& path) {
+    const QString ending = QStringLiteral(".ivd");
+    QString name = GetFileName(path);
+    if (name.endsWith(ending, Qt::CaseInsensitive))
+        name.chop(ending.size());
+    return name;
+}
+
+QString valueName(int index) {
+    return settingsNames::RecentFile.toString() + QString::number(index + 1);
+}
+
+QStringList entriesIn(const SettingsValues& values) {
+    QStringList entries;
+    for (int i = 0; i < RecentProjects::MostEntries; ++i) {
+        const QString entry =
+            Settings::regRead(values, Hive::CurrentUser, settingsNames::SettingsKey, valueName(i));
+        if (!entry.isEmpty())
+            entries.append(entry);
+    }
+    return entries;
+}
+
+void writeEntries(SettingsValues& values, const QStringList& entries) {
+    for (int i = 0; i < RecentProjects::MostEntries; ++i)
+        if (i < entries.size())
+            values.setValue(Hive::CurrentUser, settingsNames::SettingsKey, valueName(i),
+                            entries[i]);
+        else
+            values.removeValue(Hive::CurrentUser, settingsNames::SettingsKey, valueName(i));
+}
+
+/// The search is one for plain text: a path that is a part of another's entry finds that as well.
+bool replaceWhereFound(QStringList& entries, const QString& sought, const QString& entry) {
+    bool found = false;
+    for (QString& candidate : entries)
+        if (candidate.contains(sought)) {
+            candidate = entry;
+            found = true;
+        }
+    return found;
+}
+
+} // namespace
+
+RecentProjects::RecentProjects(Settings& settings, const Project& project)
+    : settings_(settings), project_(project) {}
+
+QString RecentProjects::menuCaption(int number) const {
+    return QStringLiteral("&%1 - ").arg(number) + rows_.at(number - 1).menuName;
+}
+
+const QString& RecentProjects::labelCaption(int number) const {
+    return rows_.at(number - 1).labelName;
+}
+
+QString RecentProjects::entry(int number) const {
+    return rows_.value(number - 1).entry;
+}
+
+void RecentProjects::loadRecentProjects(bool inSession) {
+    resetCounters();
+    rows_.clear();
+    for (const QString& entry : entries())
+        addRecentEntryToScreen(entry, inSession);
+    Q_EMIT rowsChanged();
+}
+
+void RecentProjects::resetCounters() {
+    recoveredMenuNumber_ = 1;
+    recoveredLabelNumber_ = 1;
+}
+
+void RecentProjects::addRecentEntryToScreen(const QString& entry, bool inSession) {
+    rows_.append({recentMenuName(entry, inSession), recentLabelName(entry, inSession), entry});
+}
+
+QString RecentProjects::recentMenuName(const QString& entry, bool inSession) {
+    const QString path = part(entry, PathPart);
+    if (path.contains(Provisional))
+        return recoveredName(recoveredMenuNumber_);
+    return nameOfProject(path) + recoveredSuffix(entry, inSession);
+}
+
+QString RecentProjects::recentLabelName(const QString& entry, bool inSession) {
+    if (!hasPart(entry, NumberPart))
+        return {};
+    const QString path = part(entry, PathPart);
+    const QString number = part(entry, NumberPart);
+    const QString title = part(entry, TitlePart);
+    const QString suffix = recoveredSuffix(entry, inSession);
+    if (path.contains(Provisional))
+        return recoveredName(recoveredLabelNumber_) + suffix;
+    if (!number.isEmpty() && !title.isEmpty())
+        return number + QStringLiteral(" (") + title + u')' + suffix;
+    const QString name = nameOfProject(path);
+    const bool saysProject = name.contains(QStringLiteral("Project -"));
+    return (saysProject ? name : QStringLiteral("Project - ") + name) + suffix;
+}
+
+int RecentProjects::countRecentEntries() const {
+    return static_cast<int>(entries().size());
+}
+
+QStringList RecentProjects::entries() const {
+    QStringList entries;
+    settings_.look([&](const SettingsValues& values) { entries = entriesIn(values); });
+    return entries;
+}
+
+/// Another program may change the list too: what is read here is what is written over.
+void RecentProjects::change(const Change& step) {
+    settings_.change([&](SettingsValues& values) {
+        QStringList entries = entriesIn(values);
+        step(entries);
+        writeEntries(values, entries);
+    });
+}
+
+bool RecentProjects::replaceRecentEntry(QStringList& entries, const QString& entry) const {
+    const QString path = part(entry, PathPart);
+    const QString& draft = project_.state.draftFileName;
+    bool found = replaceWhereFound(entries, draft.isEmpty() ? path : draft, entry);
+    if (path.contains(Provisional) && replaceWhereFound(entries, path, entry))
+        found = true;
+    return found;
+}
+
+void RecentProjects::addRecentEntry(const QString& entry, bool refresh) {
+    change([&](QStringList& entries) {
+        if (replaceRecentEntry(entries, entry))
+            return;
+        droppedRecentEntry_.clear();
+        if (entries.size() == MostEntries)
+            droppedRecentEntry_ = entries.takeLast();
+        entries.prepend(entry);
+    });
+    if (refresh)
+        refreshRecentProjects();
+}
+
+QString RecentProjects::entryOf(const QString& path) const {
+    return path + u'|' + project_.fields.txtFileNo.trimmedText() + u'|' +
+           project_.fields.txtInventionTitle.trimmedText();
+}
+
+void RecentProjects::projectSaved(const QString& path, bool refresh) {
+    addRecentEntry(entryOf(path) + OpenMarker, refresh);
+}
+
+bool RecentProjects::projectOpened(const QString& argument, const QString& path) {
+    const QString entry = argument.contains(u'|') ? argument : entryOf(path);
+    QList<int> moved;
+    QString first;
+    change([&](QStringList& entries) {
+        for (int i = 0; i < entries.size(); ++i)
+            if (entries[i].contains(path)) {
+                entries.move(i, 0);
+                if (!entries[0].contains(OpenMarker))
+                    entries[0] += OpenMarker;
+                moved.append(i);
+            }
+        first = entries.value(0);
+    });
+    for (const int index : moved)
+        moveRowToTop(index, entry);
+    const bool recovered = first.contains(OpenMarker) && !rows_.isEmpty() &&
+                           rows_.first().menuName.contains(Recovered);
+    if (moved.isEmpty())
+        addRecentEntry(entry, true);
+    else
+        droppedRecentEntry_.clear();
+    keepFirstEntry();
+    return recovered;
+}
+
+/// The row keeps its names, and with them what tells that it was recovered. Where another program
+/// has changed the list meanwhile the rows are built anew.
+void RecentProjects::moveRowToTop(int index, const QString& entry) {
+    if (index >= rows_.size())
+        return refreshRecentProjects();
+    rows_.move(index, 0);
+    rows_.first().entry = entry;
+    Q_EMIT rowsChanged();
+}
+
+void RecentProjects::clearOpenMarker() {
+    change([](QStringList& entries) {
+        if (!entries.isEmpty())
+            entries.first() = withoutMarker(entries.first());
+    });
+}
+
+void RecentProjects::keepFirstEntry() {
+    firstRecentEntry_ = withoutMarker(entries().value(0));
+}
+
+void RecentProjects::restoreFirstEntry() {
+    change([this](QStringList& entries) {
+        for (QString& entry : entries)
+            if (part(entry, PathPart) == part(firstRecentEntry_, PathPart))
+                entry = firstRecentEntry_;
+    });
+}
+
+void RecentProjects::dropEntry(const QString& path) {
+    change([&](QStringList& entries) {
+        const bool wasFull = entries.size() == MostEntries;
+        const auto removed =
+            entries.removeIf([&](const QString& entry) { return part(entry, PathPart) == path; });
+        if (removed > 0 && wasFull && !droppedRecentEntry_.isEmpty())
+            entries.append(droppedRecentEntry_);
+    });
+}
+
+} // namespace quillford
