@@ -10,8 +10,7 @@ namespace quillford {
 /// selection in it. Destroying the object quits it, and what was not saved is lost.
 ///
 /// Everything but the destructor raises `Error` when the word processor refuses, has died or does
-/// not answer in time; of one that has died every further call raises. Calls block. Paths are
-/// absolute.
+/// not answer in time; of one that has died every further call raises. Calls block.
 ///
 /// The selection is a stretch of the document's text, or a place between two characters when
 /// nothing is selected. It stands at the document's start at first.

@@ -1,5 +1,6 @@
 #include "draft/compose/DraftValues.h"
 
+#include "base/Error.h"
 #include "base/Text.h"
 #include "draft/language/Articles.h"
 #include "draft/language/Capitals.h"
@@ -66,10 +67,42 @@ QString objectSentence(const ProjectFields& fields, int object) {
            withPeriod(fields.txtObject(object).text());
 }
 
+QString figureHeading(int figure) {
+    return QStringLiteral("FIGURE %1:").arg(figure + 1);
+}
+
+QString figureCaption(int figure) {
+    return QStringLiteral("FIG. %1").arg(figure + 1);
+}
+
 QString figureSentence(const ProjectFields& fields, int figure) {
     const QString view = fields.cboFigureType(figure).trimmedText();
     return QStringLiteral("Figure ") + QString::number(figure + 1) + QStringLiteral(" is ") +
            isVowelInitial(view) + u' ' + view + QStringLiteral(" of the present invention.");
+}
+
+QString figureSentenceItem() {
+    return QStringLiteral("Figure J is a FIGURE-TYPE of the present invention.");
+}
+
+bool hasFigures(const ProjectFields& fields) {
+    return fields.cboFiguresNum.number() != 0;
+}
+
+void requireDescriptions(const ProjectFields& fields) {
+    constexpr int MissingPanel = 340; // the runtime's number for a control that does not exist
+    const int described = fields.panelCount(FieldGroup::Descriptions);
+    if (described < fields.panelCount(FieldGroup::MainElements))
+        throw Error(MissingPanel,
+                    QStringLiteral("Main Element %1 has no description").arg(described + 1));
+}
+
+QString elementName(const ProjectFields& fields, int element) {
+    return properCaseWords(fields.txtElementName(element).trimmedText());
+}
+
+QString closedText(const Field& field) {
+    return withPeriod(field.text());
 }
 
 QString finished(const Field& field, Route route) {

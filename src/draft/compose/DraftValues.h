@@ -41,8 +41,24 @@ namespace quillford {
 /// The sentence that the user's words about one object complete.
 [[nodiscard]] QString objectSentence(const ProjectFields& fields, int object);
 
-/// The sentence that tells which view a figure is.
+/// What opens the description of a figure, what stands below its drawing, and the sentence that
+/// tells which view it is; the sentence's mark is one itself.
+[[nodiscard]] QString figureHeading(int figure);
+[[nodiscard]] QString figureCaption(int figure);
 [[nodiscard]] QString figureSentence(const ProjectFields& fields, int figure);
+[[nodiscard]] QString figureSentenceItem();
+
+/// Whether the project has figures; one panel stands without any.
+[[nodiscard]] bool hasFigures(const ProjectFields& fields);
+
+/// Raises `Error` when a Main Element has no description: until the wizard has left the section of
+/// the Main Elements there may be none yet, and a draft without it would be wrong.
+void requireDescriptions(const ProjectFields& fields);
+
+[[nodiscard]] QString elementName(const ProjectFields& fields, int element);
+
+/// A text that closes a sentence of the template: with its period, and as typed otherwise.
+[[nodiscard]] QString closedText(const Field& field);
 
 /// A long field as it stands in the draft.
 [[nodiscard]] QString finished(const Field& field, Route route);

@@ -7,7 +7,6 @@
 #include "draft/compose/TemplateFile.h"
 #include "draft/compose/Trapped.h"
 #include "draft/language/Capitals.h"
-#include "draft/language/Sentences.h"
 
 namespace quillford {
 
@@ -24,23 +23,6 @@ const QString LockedBody = QStringLiteral(
     "onbeforecopy='return false' ondragstart='return false' oncontextmenu='return false'>");
 
 const QString LineBreak = QStringLiteral("<br>");
-
-const QString FigureSentenceItem =
-    QStringLiteral("Figure J is a FIGURE-TYPE of the present invention.");
-
-QString closedText(const Field& field) {
-    return withPeriod(field.text());
-}
-
-/// Until the wizard has left Section 5, a Main Element may have no description yet; a draft without
-/// it would be wrong.
-void requireDescriptions(const ProjectFields& fields, int elements) {
-    constexpr int MissingPanel = 340; // the runtime's number for a control that does not exist
-    const int described = fields.panelCount(FieldGroup::Descriptions);
-    if (described < elements)
-        throw Error(MissingPanel,
-                    QStringLiteral("Main Element %1 has no description").arg(described + 1));
-}
 
 } // namespace
 
@@ -132,15 +114,15 @@ void HtmlComposer::fillFigureDescriptions(HTMLTemplate& page) const {
     const auto parse = [&](const QString& head, const QString& sentence, const QString& detail,
                            const QString& separator) {
         page.SetItem(QStringLiteral("FIGURE I:"), head);
-        page.SetItem(FigureSentenceItem, sentence);
+        page.SetItem(figureSentenceItem(), sentence);
         page.SetItem(QStringLiteral("4-FIGURE DESCRIPTION"), detail);
         page.Parse(target, block, separator);
     };
     page.SetBlock(PageBlock, block, target);
-    if (!hasFigures())
+    if (!hasFigures(fields_))
         return parse(noFiguresSentence(), {}, {}, {});
     for (int i = 0; i < fields_.panelCount(FieldGroup::Figures); ++i)
-        parse(QStringLiteral("FIGURE %1:").arg(i + 1), figureSentence(fields_, i),
+        parse(figureHeading(i), figureSentence(fields_, i),
               finished(fields_.txtFigureDetail(i), Route::Html), LineBreak);
 }
 
@@ -150,11 +132,10 @@ void HtmlComposer::fillMainElements(HTMLTemplate& page) const {
     page.SetItem(QStringLiteral("5-GENERAL-DE"), closedText(fields_.txtMainElement));
     page.SetBlock(PageBlock, block, target);
     const int elements = fields_.panelCount(FieldGroup::MainElements);
-    requireDescriptions(fields_, elements);
+    requireDescriptions(fields_);
     for (int i = 0; i < elements; ++i) {
         page.SetItem(QStringLiteral("B-MAIN ELEMENT"), headingLetter(i));
-        page.SetItem(QStringLiteral("5-MAIN ELEMENT"),
-                     properCaseWords(fields_.txtElementName(i).trimmedText()));
+        page.SetItem(QStringLiteral("5-MAIN ELEMENT"), elementName(fields_, i));
         page.SetItem(QStringLiteral("5-MAIN DESCRIPTION"),
                      finished(fields_.txtElementDes(i), Route::Html));
         page.SetItem(QStringLiteral("7-DETAILED"),
@@ -198,14 +179,10 @@ void HtmlComposer::fillDrawings(HTMLTemplate& page) const {
         page.Parse(target, block, separator);
     };
     page.SetBlock(PageBlock, block, target);
-    if (!hasFigures())
+    if (!hasFigures(fields_))
         return parse(noFiguresSentence(), {}, {}, {});
     for (int i = 0; i < fields_.panelCount(FieldGroup::Figures); ++i)
-        parse({}, imageTag(i), QStringLiteral("FIG. %1").arg(i + 1), LineBreak + LineBreak);
-}
-
-bool HtmlComposer::hasFigures() const {
-    return fields_.cboFiguresNum.number() != 0;
+        parse({}, imageTag(i), figureCaption(i), LineBreak + LineBreak);
 }
 
 /// The path stands as it is, without any rule of addresses; both lengths are empty while the size

@@ -44,7 +44,6 @@ private:
     void setAbstractTitles(HTMLTemplate& page) const;
     void fillDrawings(HTMLTemplate& page) const;
 
-    [[nodiscard]] bool hasFigures() const;
     [[nodiscard]] QString imageTag(int figure) const;
 
     const ProjectFields& fields_;

@@ -7,12 +7,13 @@
 
 namespace quillford {
 
-QString writeTemplateFile(const QString& templateName, Folders& folders) {
+QString writeTemplateFile(const QString& templateName, Folders& folders, const QString& ending) {
     constexpr int Names = 10000;
     const int number = QRandomGenerator::global()->bounded(Names);
-    const QString path = folders.temporaryFolder() + QStringLiteral("/Temp%1.htm").arg(number);
+    const QString path =
+        folders.temporaryFolder() + QStringLiteral("/Temp%1.%2").arg(number).arg(ending);
     const QByteArray content =
-        contentOfFile(QStringLiteral(":/templates/%1.htm").arg(templateName));
+        contentOfFile(QStringLiteral(":/templates/%1.%2").arg(templateName, ending));
     QFile file;
     openPlainFile(file, path);
     if (!file.resize(0))
