@@ -41,7 +41,9 @@ qint32 storedCount(const QByteArray& bytes, const QString& path) {
 } // namespace
 
 ProjectWriter::ProjectWriter(const Project& project, UserPrompts& prompts)
-    : project_(project), fields_(project.fields), prompts_(prompts) {}
+    : project_(project), fields_(project.fields), prompts_(&prompts) {}
+
+ProjectWriter::ProjectWriter(const Project& project) : project_(project), fields_(project.fields) {}
 
 void ProjectWriter::write(const QString& path, Durability durability) {
     bool createProps = true;
@@ -177,13 +179,14 @@ void ProjectWriter::writePanels(Stream& stream, FieldGroup group, int count) con
 }
 
 /// The bytes of a file, or an array without bounds for one that is empty or cannot be read; the
-/// user is told why it cannot.
+/// user, if there is one, is told why it cannot.
 QByteArray ProjectWriter::readFileBytes(const QString& path) {
     try {
         const QByteArray bytes = contentOfFile(path);
         return bytes.isEmpty() ? QByteArray() : bytes;
     } catch (const Error& error) {
-        prompts_.showMessage(UserPrompts::Icon::None, {}, error.description());
+        if (prompts_)
+            prompts_->showMessage(UserPrompts::Icon::None, {}, error.description());
         return {};
     }
 }

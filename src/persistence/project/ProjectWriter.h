@@ -16,8 +16,12 @@ public:
     /// How far the bytes have come when `write` returns: handed to the system, or on the disk.
     enum class Durability { Flushed, OnDisk };
 
-    /// Owns none of its arguments; all outlive it.
+    /// Owns none of its arguments; all outlive it. The user is told in a box why a picture cannot
+    /// be read.
     ProjectWriter(const Project& project, UserPrompts& prompts);
+
+    /// A writer that tells nobody, for saves that nobody has asked for.
+    explicit ProjectWriter(const Project& project);
 
     /// Writes the project into the file `path`, which is made if it is missing. The file is open
     /// only as long as the call lasts.
@@ -56,7 +60,7 @@ private:
 
     const Project& project_;
     const ProjectFields& fields_;
-    UserPrompts& prompts_;
+    UserPrompts* prompts_ = nullptr; ///< not owned; null where nobody is told
 };
 
 } // namespace quillford

@@ -18,32 +18,41 @@ QByteArray digestOf(const QByteArray& content) {
            QCryptographicHash::hash(content, QCryptographicHash::Sha256);
 }
 
-} // namespace
-
-void ShadowCopy::remember(const QString& path) {
-    forget();
-    digest_ = digestOf(contentOfFile(path));
-}
-
-bool ShadowCopy::isOwn(const QString& path) const {
+/// The digest of a file; nothing for one that is not there or cannot be read, whose content nobody
+/// can know.
+QByteArray digestOfFile(const QString& path) {
     if (!QFileInfo(path).isFile())
-        return false;
+        return {};
     try {
-        return isOwnContent(contentOfFile(path));
+        return digestOf(contentOfFile(path));
     } catch (const Error&) {
-        return false; // what cannot be read cannot be told to be this run's own
+        return {};
     }
 }
 
-bool ShadowCopy::isOwnContent(const QByteArray& content) const {
-    return digestOf(content) == digest_;
+} // namespace
+
+void ShadowCopy::remember(const QString& path, const QString& target) {
+    forget();
+    targetDigest_ = digestOfFile(target);
+    digest_ = digestOf(contentOfFile(path));
+}
+
+void ShadowCopy::forget() {
+    digest_.clear();
+    targetDigest_.clear();
+}
+
+bool ShadowCopy::isOwn(const QString& path) const {
+    return !digest_.isEmpty() && digestOfFile(path) == digest_;
 }
 
 void ShadowCopy::putBack(const QString& path, const QString& target) const {
     const QByteArray content = contentOfFile(path);
-    if (!isOwnContent(content))
+    if (digestOf(content) != digest_)
         throw Error(BadFileName, QStringLiteral("it is not the copy that was written"), path);
-    replaceFile(target, content);
+    if (targetDigest_.isEmpty() || digestOfFile(target) != targetDigest_)
+        replaceFile(target, content);
 }
 
 void ShadowCopy::deleteCopy(const QString& path) const {

@@ -10,27 +10,28 @@ namespace quillford {
 /// counts as this run's own only while it holds what this run wrote.
 class ShadowCopy {
 public:
-    /// Keeps in mind what a copy holds that was just written whole. Raises `Error` when it cannot
-    /// be read; no copy is this run's own then.
-    void remember(const QString& path);
+    /// Keeps in mind what a copy holds that was just written whole, and what the project's file
+    /// holds, `target`. Raises `Error` when the copy cannot be read; none is this run's own then.
+    void remember(const QString& path, const QString& target);
 
     /// From now on no copy is this run's own, until one is remembered.
-    void forget() { digest_.clear(); }
+    void forget();
 
     /// Whether the file holds what was remembered. Without a file, or one that can be read: false.
     [[nodiscard]] bool isOwn(const QString& path) const;
 
-    /// Makes `target` hold what the copy holds. Raises `Error` when the copy is not this run's own,
-    /// or cannot be read, or the target cannot be written; the target stays as it was then.
+    /// Makes `target` hold what the copy holds, unless it still is what it was when the copy was
+    /// remembered: then there is nothing to take back, and it may well be write-protected. Raises
+    /// `Error` when the copy is not this run's own, or cannot be read, or the target cannot be
+    /// written; the target stays as it was then.
     void putBack(const QString& path, const QString& target) const;
 
     /// Deletes the copy. One that holds something else belongs to another program and stays.
     void deleteCopy(const QString& path) const;
 
 private:
-    [[nodiscard]] bool isOwnContent(const QByteArray& content) const;
-
-    QByteArray digest_; ///< of the remembered content, its length before it; empty for none
+    QByteArray digest_;       ///< of the copy, its length before it; empty for none
+    QByteArray targetDigest_; ///< of the project's file; empty where it could not be read
 };
 
 } // namespace quillford

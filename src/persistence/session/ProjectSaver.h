@@ -1,0 +1,57 @@
+#pragma once
+
+#include "core/commands/SaveDialog.h"
+#include "core/fields/Project.h"
+#include "core/settings/WorkFolders.h"
+#include "core/wizard/SaveStateLine.h"
+#include "core/wizard/WindowTitle.h"
+#include "persistence/session/RecentProjects.h"
+#include "persistence/session/ShadowCopy.h"
+#include "platform/UserPrompts.h"
+
+#include <QString>
+
+namespace quillford {
+
+/// Saves the open project: into its own file, into a working copy, into its shadow copy.
+class ProjectSaver {
+public:
+    /// Owns none of its arguments; all outlive it.
+    ProjectSaver(Project& project, WorkFolders& folders, SaveDialog& dialog, RecentProjects& recent,
+                 ShadowCopy& shadow, WindowTitle& title, SaveStateLine& saveState,
+                 UserPrompts& prompts);
+
+    /// See `ProjectStore::SaveFile`. While `isAutoSaving` is set nobody is asked, a refused file is
+    /// spared and the shadow copy written in its place, and the project still counts as changed.
+    [[nodiscard]] bool SaveFile();
+
+    /// See `ProjectStore::saveAsNew`.
+    void saveAsNew() { isNew_ = true; }
+
+    /// Writes the project into a new file `shadowFileName`, and nothing else: neither the title nor
+    /// the recent list nor the state of the project follows. Raises `Error`; there is no shadow
+    /// copy then that could be put back.
+    void writeShadow();
+
+    /// See `ProjectStore::updateShadow`. A project that was saved under another name first gives
+    /// its old file back as the user last saved it.
+    void updateShadow();
+
+private:
+    [[nodiscard]] bool chooseTarget();
+    void write(bool isNew);
+    void rememberFolder();
+    void settleState();
+
+    Project& project_;
+    WorkFolders& folders_;
+    SaveDialog& dialog_;
+    RecentProjects& recent_;
+    ShadowCopy& shadow_;
+    WindowTitle& title_;
+    SaveStateLine& saveState_;
+    UserPrompts& prompts_;
+    bool isNew_ = false;
+};
+
+} // namespace quillford
