@@ -2,22 +2,23 @@
 
 #include "editors/pages/PageIntroduction.h"
 #include "editors/pages/PageOperation.h"
-#include "persistence/project/ProjectFileReader.h"
 
 namespace quillford {
 
 MainWindow::MainWindow(Project& project, mdlSystem& system, Settings& settings,
                        UserPrompts& prompts, const Ports& ports)
     : project_(project),
-      ports_(ports),
       form_(system.appFolder, focusOrder_),
+      fileEntries_(new FileMenuEntries(form_.menus().file())),
+      tmrAutoSave_(new QTimer(&form_)),
+      autoSaveSwitch_(*tmrAutoSave_),
       bound_(project.fields),
       pages_(form_, form_.help(), bound_),
       projectScreen_(form_, form_.title(), form_.welcome(), [] {}),
       guidance_(project.fields, project.state, bound_, [](const PanelScroll&) {}),
       columns_(project.fields),
-      screen_{form_.looks(), pages_, columns_,       guidance_,
-              index_,        form_.title(), projectScreen_, autoSave_},
+      screen_{form_.looks(), pages_,        columns_,       guidance_,
+              index_,        form_.title(), projectScreen_, autoSaveSwitch_},
       rules_(project.fields, project.state, form_.looks(), prompts),
       messages_(system, settings, prompts),
       entry_(project.fields, messages_, focusOrder_, screen_),
@@ -26,13 +27,16 @@ MainWindow::MainWindow(Project& project, mdlSystem& system, Settings& settings,
       steps_(project.fields, project.state, mirror_, bound_, form_.title(), index_, ports.measure),
       wrap_(project.fields, pages_, focusOrder_),
       timers_(project.fields, bound_, pages_, columns_),
-      newProject_(project, system, rules_, navigator_, screen_, store_, ports.spelling,
-                  ports.clock) {
+      files_(project, system, settings, prompts,
+             {rules_, navigator_, screen_, form_.title(), *tmrAutoSave_}, ports) {
     new PageIntroduction(form_.panel(0), bound_);
     new PageOperation(form_.panel(7), bound_);
     joinFields();
     joinNavigation();
-    joinWindow();
+    joinMenus();
+    joinKeys();
+    joinRecentProjects();
+    form_.menus().showWords();
 }
 
 MainWindow::~MainWindow() {
@@ -55,11 +59,63 @@ void MainWindow::joinNavigation() {
     QObject::connect(&form_.bar(), &StepBar::btnStep_Click, &form_,
                      [this](int index) { navigator_.btnStep_Click(index); });
     QObject::connect(&form_.welcome(), &WelcomePage::newWanted, &form_,
-                     [this] { navigator_.showSectionOne(); });
+                     [this] { files_.commands().lblRecentPatents_Click(0); });
+    QObject::connect(&form_.welcome(), &WelcomePage::openWanted, &form_,
+                     [this] { files_.commands().mnuFileOpen_Click(); });
+    QObject::connect(&form_.welcome(), &WelcomePage::recentWanted, &form_,
+                     [this](int row) { files_.commands().lblRecentPatents_Click(row); });
+    QObject::connect(&form_, &frmMain1::closing, &form_,
+                     [this](bool& refuse) { refuse = !files_.commands().queryUnload(); });
 }
 
-void MainWindow::joinWindow() {}
+void MainWindow::joinMenus() {
+    ProjectCommands& commands = files_.commands();
+    const auto starts = [&](void (FileMenuEntries::*click)(), void (ProjectCommands::*command)()) {
+        QObject::connect(fileEntries_, click, &form_,
+                         [&commands, command] { (commands.*command)(); });
+    };
+    starts(&FileMenuEntries::mnuFileNew_Click, &ProjectCommands::mnuFileNew_Click);
+    starts(&FileMenuEntries::mnuFileOpen_Click, &ProjectCommands::mnuFileOpen_Click);
+    starts(&FileMenuEntries::mnuFileSave_Click, &ProjectCommands::mnuFileSave_Click);
+    starts(&FileMenuEntries::mnuFileSaveAs_Click, &ProjectCommands::mnuFileSaveAs_Click);
+    starts(&FileMenuEntries::mnuGotoWelcomePage_Click, &ProjectCommands::mnuGotoWelcomePage_Click);
+    QObject::connect(fileEntries_, &FileMenuEntries::mnuFileRecent_Click, &form_,
+                     [&commands](int index) { commands.mnuFileRecent_Click(index); });
+    QObject::connect(fileEntries_, &FileMenuEntries::mnuFileExit_Click, &form_, &QWidget::close);
+    QObject::connect(&form_.menus(), &MainMenus::fileMenuOpens, &form_, [this] {
+        fileMenu_.open(projectScreen_.isWelcomePageShown(),
+                       rules_.isComplete(SectionRules::FinalDraftTab));
+        fileEntries_->enable(fileMenu_);
+    });
+}
 
-void MainWindow::OpenFile(const QString&) {}
+void MainWindow::joinKeys() {
+    ProjectCommands& commands = files_.commands();
+    QObject::connect(&form_.keys(), &KeyCommands::newWanted, &form_,
+                     [&commands] { commands.mnuFileNew_Click(); });
+    QObject::connect(&form_.keys(), &KeyCommands::openWanted, &form_,
+                     [&commands] { commands.mnuFileOpen_Click(); });
+    QObject::connect(&form_.keys(), &KeyCommands::saveWanted, &form_, [this, &commands] {
+        if (fileMenu_.isProjectEnabled())
+            commands.mnuFileSave_Click();
+    });
+}
+
+void MainWindow::joinRecentProjects() {
+    RecentProjects& recent = files_.recent();
+    const auto show = [this, &recent] {
+        QStringList menu;
+        QStringList page;
+        for (int number = 1; number <= recent.rowCount(); ++number) {
+            menu.append(recent.menuCaption(number));
+            page.append(recent.labelCaption(number));
+        }
+        fileEntries_->setRecentProjects(menu);
+        form_.welcome().setRecentProjects(page);
+    };
+    QObject::connect(&recent, &RecentProjects::rowsChanged, &form_, show);
+    recent.loadRecentProjects(false);
+    show();
+}
 
 } // namespace quillford

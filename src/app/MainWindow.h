@@ -1,13 +1,13 @@
 #pragma once
 
 #include "app/Interim.h"
-#include "app/Ports.h"
-#include "core/commands/NewProject.h"
-#include "core/fields/Project.h"
+#include "app/ProjectFiles.h"
 #include "editors/binding/FieldGuidance.h"
 #include "editors/columns/CountTimers.h"
 #include "editors/rules/FieldChangeSteps.h"
 #include "editors/rules/TabWrap.h"
+#include "persistence/session/AutoSaveTimer.h"
+#include "shell/FileMenuEntries.h"
 #include "shell/FormLooks.h"
 #include "shell/FormScreen.h"
 #include "shell/PanelStack.h"
@@ -26,29 +26,32 @@ public:
 
     [[nodiscard]] frmMain1& form() { return form_; }
 
-    void NewFile() { newProject_.NewFile(); }
+    void NewFile() { files_.newProject().NewFile(); }
 
-    void OpenFile(const QString& path);
+    void OpenFile(const QString& path) { files_.store().OpenFile(path); }
 
     void showWelcomePage() { navigator_.showWelcomePage(); }
 
 private:
     void joinFields();
     void joinNavigation();
-    void joinWindow();
+    void joinMenus();
+    void joinKeys();
+    void joinRecentProjects();
 
     Project& project_;
-    const Ports& ports_;
     FocusOrder focusOrder_;
     frmMain1 form_;
+    FileMenu fileMenu_;
+    FileMenuEntries* fileEntries_; // owned by the menu
+    QTimer* tmrAutoSave_;          // owned by the form
+    AutoSaveTimer autoSaveSwitch_;
     BoundFields bound_;
     PanelStack pages_;
     FormScreen projectScreen_;
     FieldGuidance guidance_;
     InterimColumns columns_;
     InterimIndex index_;
-    InterimAuto autoSave_;
-    InterimStore store_;
     WizardScreen screen_;
     SectionRules rules_;
     SectionMessages messages_;
@@ -58,7 +61,7 @@ private:
     FieldChangeSteps steps_;
     TabWrap wrap_;
     CountTimers timers_;
-    NewProject newProject_;
+    ProjectFiles files_;
 };
 
 } // namespace quillford

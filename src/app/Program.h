@@ -38,9 +38,13 @@ public:
 
 private:
     void loadForm() override;
+
     void NewFile() override { window_->NewFile(); }
+
     void OpenFile(const QString& path) override { window_->OpenFile(path); }
+
     void showWelcomePage() override { window_->showWelcomePage(); }
+
     void showForm() override { window_->form().show(); }
 
     Project project_;

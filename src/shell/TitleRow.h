@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/wizard/SaveStateLine.h"
 #include "core/wizard/TitleLine.h"
 
 #include <QObject>
@@ -10,7 +11,7 @@ namespace quillford {
 
 /// The texts of the title strip: the form's caption at the left, the line of the invention in the
 /// middle, `lblTitleInvention`, and when the project was last saved, `lblSaveState`.
-class TitleRow final : public QObject, public TitleLine {
+class TitleRow final : public QObject, public TitleLine, public SaveStateLine {
     Q_OBJECT
 
 public:
@@ -22,7 +23,7 @@ public:
 
     void showTitleInvention(const QString& caption) override;
 
-    void showSaveState(const QString& text);
+    void showSaveState(const QString& text) override;
 
 private:
     QWidget& form_;
