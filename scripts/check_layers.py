@@ -16,7 +16,7 @@ SRC = ROOT / "src"
 # subfolders, earlier ones first.
 FLOORS = [
     {"base": []},
-    {"platform": ["", "linux", "linux/desktop"]},
+    {"platform": ["", "linux", "linux/writer", "linux/desktop"]},
     {"core": ["fields", "rules", "settings", "text", "wizard", "commands"]},
     {"persistence": ["compound", "project", "session"]},
     {"draft": ["language", "template", "compose", "commands", "pages"]},

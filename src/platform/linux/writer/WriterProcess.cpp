@@ -1,0 +1,101 @@
+#include "platform/linux/writer/WriterProcess.h"
+
+#include "base/Error.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QUrl>
+
+#include <csignal>
+#include <sys/prctl.h>
+#include <unistd.h>
+
+namespace quillford {
+
+namespace {
+
+constexpr int CannotCreate = 429;  // the runtime's number for a component that cannot be created
+constexpr int MadeItsProfile = 81; // the exit status that asks for another start
+constexpr int MostRuns = 3;
+
+/// Nothing of the user's reaches the process, and its temporary files stay in its folder.
+QProcessEnvironment environment(const QString& folder) {
+    QProcessEnvironment variables;
+    variables.insert(QStringLiteral("PATH"), QStringLiteral("/usr/bin:/bin"));
+    variables.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    variables.insert(QStringLiteral("SAL_USE_VCLPLUGIN"), QStringLiteral("svp"));
+    for (const QString& name : {QStringLiteral("HOME"), QStringLiteral("TMPDIR"),
+                                QStringLiteral("TMP"), QStringLiteral("TEMP")})
+        variables.insert(name, folder);
+    return variables;
+}
+
+} // namespace
+
+WriterProcess::WriterProcess(const WriterStart& start)
+    : folder_(QDir(start.workFolder).absoluteFilePath(QStringLiteral("Word-XXXXXX"))) {
+    if (!folder_.isValid())
+        throw Error(CannotCreate, folder_.errorString(), start.workFolder);
+    pipe_ =
+        QStringLiteral("quillford-%1-%2").arg(getpid()).arg(QFileInfo(folder_.path()).fileName());
+    const QDir programs(start.programFolder);
+    // The program itself and not its starter, so that the process is the one that works.
+    process_.setProgram(programs.filePath(QStringLiteral("soffice.bin")));
+    process_.setArguments(
+        {QStringLiteral("--headless"), QStringLiteral("--invisible"), QStringLiteral("--norestore"),
+         QStringLiteral("--nologo"), QStringLiteral("--nodefault"),
+         QStringLiteral("--nofirststartwizard"), QStringLiteral("--nolockcheck"),
+         QStringLiteral("-env:UserInstallation=") +
+             QUrl::fromLocalFile(place(QStringLiteral("profile"))).toString(QUrl::FullyEncoded),
+         QStringLiteral("--accept=pipe,name=%1;urp;").arg(pipe_)});
+    process_.setProcessEnvironment(environment(folder_.path()));
+    process_.setWorkingDirectory(folder_.path());
+    process_.setStandardInputFile(QProcess::nullDevice());
+    process_.setStandardOutputFile(QProcess::nullDevice());
+    process_.setStandardErrorFile(QProcess::nullDevice());
+    process_.setChildProcessModifier([] {
+        ::setpgid(0, 0);
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    });
+    run();
+}
+
+WriterProcess::~WriterProcess() {
+    if (const pid_t group = processGroup(); group > 0) {
+        ::kill(-group, SIGKILL);
+        process_.waitForFinished(-1);
+    }
+    // One that was killed leaves its end of the pipe behind.
+    QFile::remove(QStringLiteral("/tmp/OSL_PIPE_%1_%2").arg(getuid()).arg(pipe_));
+}
+
+QString WriterProcess::address() const {
+    return QStringLiteral("uno:pipe,name=%1;urp;StarOffice.ComponentContext").arg(pipe_);
+}
+
+void WriterProcess::run() {
+    ++runs_;
+    process_.start();
+    if (!process_.waitForStarted(-1))
+        throw Error(CannotCreate, process_.errorString(), process_.program());
+}
+
+void WriterProcess::waitForStart() {
+    constexpr int Moment = 20;
+    if (!waitForEnd(Moment))
+        return;
+    const bool asksForStart =
+        process_.exitStatus() == QProcess::NormalExit && process_.exitCode() == MadeItsProfile;
+    if (!asksForStart || runs_ == MostRuns)
+        throw Error(CannotCreate,
+                    QStringLiteral("LibreOffice ended at its start with status %1")
+                        .arg(process_.exitCode()),
+                    process_.program());
+    run();
+}
+
+bool WriterProcess::waitForEnd(int atMost) {
+    return process_.state() == QProcess::NotRunning || process_.waitForFinished(atMost);
+}
+
+} // namespace quillford

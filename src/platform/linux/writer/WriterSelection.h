@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QString>
+
+#include <com/sun/star/datatransfer/XTransferable.hpp>
+#include <com/sun/star/text/XText.hpp>
+#include <com/sun/star/text/XTextContent.hpp>
+#include <com/sun/star/text/XTextCursor.hpp>
+#include <com/sun/star/text/XTextDocument.hpp>
+#include <com/sun/star/text/XTextRange.hpp>
+#include <com/sun/star/text/XTextViewCursor.hpp>
+
+namespace quillford {
+
+namespace css = com::sun::star;
+
+/// The selection in the body of a document: a cursor of the document's own. Positions are ranges
+/// and never numbers, which pictures and fields would upset. Its calls raise what LibreOffice
+/// raises.
+class WriterSelection {
+public:
+    using Range = css::uno::Reference<css::text::XTextRange>;
+
+    explicit WriterSelection(const css::uno::Reference<css::text::XTextDocument>& document);
+
+    bool find(const QString& text);
+
+    [[nodiscard]] Range start() const;
+    [[nodiscard]] Range end() const;
+    void select(const Range& start, const Range& end);
+    [[nodiscard]] bool isSame(const Range& one, const Range& other) const;
+
+    [[nodiscard]] QString text() const;
+    void setText(const QString& text);
+
+    void copy();
+    void paste();
+
+    void moveLeft();
+    void moveRight();
+    void deleteForward();
+    void deleteBackward();
+
+    /// Puts the content in the place of what is selected.
+    void insert(const css::uno::Reference<css::text::XTextContent>& content);
+
+private:
+    [[nodiscard]] bool isInBody(const Range& range) const;
+    [[nodiscard]] bool isSelected(const QString& text) const;
+    [[nodiscard]] bool isEmptyParagraph() const;
+    void removeParagraph();
+    void replaceText(const QString& text);
+    [[nodiscard]] css::uno::Reference<css::text::XTextViewCursor> viewCursor() const;
+
+    css::uno::Reference<css::text::XTextDocument> document_;
+    css::uno::Reference<css::text::XText> body_;
+    css::uno::Reference<css::text::XTextCursor> cursor_;
+    css::uno::Reference<css::datatransfer::XTransferable> copied_;
+};
+
+} // namespace quillford
