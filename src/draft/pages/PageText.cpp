@@ -3,7 +3,7 @@
 #include "draft/pages/LongRuns.h"
 #include "draft/pages/RichText.h"
 
-#include <QImage>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QTextCursor>
 #include <QUrl>
@@ -35,15 +35,22 @@ std::optional<QTextImageFormat> pictureIn(const QTextBlock& block) {
     return std::nullopt;
 }
 
-/// Puts a frame in the place of a figure whose picture cannot be read.
-void addFrame(QTextDocument& document, const QTextImageFormat& figure) {
-    const QUrl name(figure.name());
-    if (!isFigure(figure.name()) ||
-        !document.resource(QTextDocument::ImageResource, name).value<QImage>().isNull())
+/// Puts a frame in the place of a figure whose picture cannot be read, and scales one for a screen
+/// beforehand, because the toolkit does so without smoothing.
+void fitPicture(QTextDocument& document, const QTextImageFormat& figure, Medium medium) {
+    if (!isFigure(figure.name()))
         return;
-    const auto length = [](qreal given) { return given > 0 ? qRound(given) : UnknownLength; };
-    document.addResource(QTextDocument::ImageResource, name,
-                         frameOf({length(figure.width()), length(figure.height())}));
+    const QUrl name(figure.name());
+    const auto picture = document.resource(QTextDocument::ImageResource, name).value<QImage>();
+    const QSizeF size(figure.width(), figure.height());
+    const bool isSized = size.width() > 0 && size.height() > 0;
+    if (picture.isNull())
+        document.addResource(QTextDocument::ImageResource, name,
+                             isSized ? frameOf(size.toSize()) : missingPicture());
+    else if (medium == Medium::Screen && isSized)
+        document.addResource(QTextDocument::ImageResource, name,
+                             picture.scaled((size * qGuiApp->devicePixelRatio()).toSize(),
+                                            Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 /// The blanks beside a figure would make its line higher than the figure.
@@ -81,7 +88,7 @@ void separateOnScreen(const QTextBlock& block) {
 
 void finishBlock(QTextDocument& document, const QTextBlock& block, Medium medium) {
     if (const auto figure = pictureIn(block)) {
-        addFrame(document, *figure);
+        fitPicture(document, *figure, medium);
         shrinkBlanks(block);
         if (medium == Medium::Paper)
             centreOnPaper(block, figure->width());

@@ -147,3 +147,22 @@ TEST_F(PageTextTest, a_field_of_a_million_characters_without_a_blank_is_laid_out
     EXPECT_GT(document.size().height(), 24 * 10000);
     EXPECT_LT(timer.elapsed(), 15000);
 }
+
+TEST_F(PageTextTest, a_figure_is_scaled_smoothly_for_a_screen_and_kept_whole_for_paper) {
+    QImage half(400, 400, QImage::Format_RGB32); // every second column is black
+    for (int x = 0; x < 400; ++x)
+        for (int y = 0; y < 400; ++y)
+            half.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::white);
+    loader.pictures[u"/nowhere/fig1.png"_s] = half;
+    fields.figureState(0).workingCopy = u"/nowhere/fig1.png"_s;
+    fields.figureState(0).sizeText = u"200, 200"_s;
+    const auto shown = [&] {
+        const auto name = drawing().begin().fragment().charFormat().toImageFormat().name();
+        return document.resource(QTextDocument::ImageResource, QUrl(name)).value<QImage>();
+    };
+    show(preview(), Medium::Screen);
+    EXPECT_EQ(shown().size(), QSize(200, 200));
+    EXPECT_NEAR(shown().pixelColor(100, 100).lightness(), 128, 8);
+    show(preview(), Medium::Paper);
+    EXPECT_EQ(shown().size(), QSize(400, 400));
+}
