@@ -2,6 +2,8 @@
 
 #include "editors/pages/PageIntroduction.h"
 #include "editors/pages/PageOperation.h"
+#include "shell/KeyCommands.h"
+#include "shell/MainMenus.h"
 
 namespace quillford {
 
