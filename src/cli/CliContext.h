@@ -2,9 +2,12 @@
 
 #include "platform/Folders.h"
 #include "platform/PictureReader.h"
+#include "platform/PrintJob.h"
 
 #include <QByteArray>
 #include <QIODevice>
+
+#include <functional>
 
 namespace quillford {
 
@@ -14,6 +17,8 @@ struct CliContext {
     QIODevice& errors; ///< standard error
     Folders& folders;
     PictureReader& pictures;
+    /// Prints into the bytes of a PDF file; raises `Error` when it cannot.
+    std::function<QByteArray(const PrintJob&)> printPdf = {};
 
     /// Writes a text in UTF-8 to standard output. Raises `Error` when not all of it is taken.
     void print(const QByteArray& text);

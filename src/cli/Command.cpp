@@ -12,8 +12,8 @@ const QString HelpOption = QStringLiteral("help");
 
 QString Command::help() const {
     const QString indent = QStringLiteral("\n      ");
-    return QStringLiteral("  quillford-cli %1 %2").arg(name(), usage()) + indent +
-           description().replace(u'\n', indent) + u'\n';
+    return QStringLiteral("  quillford-cli %1 %2").arg(name(), usage()).replace(u'\n', indent) +
+           indent + description().replace(u'\n', indent) + u'\n';
 }
 
 ExitStatus Command::run(const QStringList& arguments, CliContext& context) {

@@ -25,7 +25,8 @@ public:
 
     [[nodiscard]] virtual QString name() const = 0;
 
-    /// The arguments after the name, and what the command does, for the help text.
+    /// The arguments after the name, and what the command does, for the help text; both may have
+    /// several lines.
     [[nodiscard]] virtual QString usage() const = 0;
     [[nodiscard]] virtual QString description() const = 0;
 

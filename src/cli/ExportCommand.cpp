@@ -1,10 +1,12 @@
 #include "cli/ExportCommand.h"
 
+#include "base/Files.h"
 #include "cli/CheckedSections.h"
 #include "cli/CliPrompts.h"
 #include "cli/CliVerification.h"
 #include "cli/OutputPlaces.h"
 #include "core/rules/FigureSize.h"
+#include "draft/commands/PageSetup.h"
 #include "draft/compose/HtmlComposer.h"
 #include "draft/compose/IndexComposer.h"
 #include "persistence/project/WorkingCopies.h"
@@ -15,6 +17,7 @@ namespace quillford {
 namespace {
 
 const QString HtmlOption = QStringLiteral("html");
+const QString PdfOption = QStringLiteral("pdf");
 const QString IndexOption = QStringLiteral("index");
 const QString ReportOption = QStringLiteral("report");
 const QString IncompleteOption = QStringLiteral("incomplete");
@@ -23,7 +26,7 @@ constexpr int SectionNotComplete = 5;
 
 /// Every option that names a file to be written.
 const QStringList& outputOptions() {
-    static const QStringList options{HtmlOption, IndexOption, ReportOption};
+    static const QStringList options{HtmlOption, PdfOption, IndexOption, ReportOption};
     return options;
 }
 
@@ -48,6 +51,18 @@ void exportHtml(const Project& project, const QString& path, CliContext& context
     QString written; // an empty text asks for a file
     if (!composer.ExportToHTML(path, written))
         raiseFailure(composer.failure(), path);
+}
+
+void exportPdf(const Project& project, const QString& path, CliContext& context,
+               UserPrompts& prompts) {
+    HtmlComposer composer(project.fields, context.folders, prompts);
+    PrintJob job;
+    job.html = QStringLiteral(" "); // a text asks for a preview, which is what is printed
+    if (!composer.ExportToHTML(QString(), job.html))
+        raiseFailure(composer.failure(), path);
+    job.title = QStringLiteral("Project - ") + project.fields.txtFileNo.trimmedText();
+    job.footer = PageSetup::Footer.toString();
+    about(path, [&] { replaceFile(path, context.printPdf(job)); });
 }
 
 void exportIndex(const Project& project, const QString& path, CliContext& context,
@@ -117,6 +132,8 @@ ExitStatus ExportCommand::executeOn(const QCommandLineParser& parser, Project& p
         requireComplete(project, prompts);
     if (parser.isSet(HtmlOption))
         exportHtml(project, parser.value(HtmlOption), context, prompts);
+    if (parser.isSet(PdfOption))
+        exportPdf(project, parser.value(PdfOption), context, prompts);
     if (parser.isSet(IndexOption))
         exportIndex(project, parser.value(IndexOption), context, prompts);
     if (parser.isSet(ReportOption))

@@ -27,7 +27,11 @@ protected:
         QBuffer errors;
         outputs.open(QIODevice::WriteOnly);
         errors.open(QIODevice::WriteOnly);
-        CliContext context{outputs, errors, folders, pictures};
+        const auto print = [this](const PrintJob& job) {
+            prints.append(job);
+            return QByteArray("%PDF");
+        };
+        CliContext context{outputs, errors, folders, pictures, print};
         const int status = CliProgram(context).run(arguments);
         output = outputs.data();
         error = errors.data();
@@ -67,6 +71,7 @@ protected:
     QTemporaryDir folder;
     FakeFolders folders;
     FakePictureReader pictures;
+    QList<PrintJob> prints; ///< of all runs
     QByteArray output;
     QByteArray error;
 };

@@ -47,6 +47,26 @@ TEST_F(ExportCommandTest, writes_the_index_as_a_page_of_its_own) {
     EXPECT_EQ(files(), QStringList({u"index.htm"_s, u"project.json"_s}));
 }
 
+TEST_F(ExportCommandTest, prints_the_preview_with_the_footer_of_the_wizard) {
+    const QString pdf = place(u"draft.pdf"_s);
+    EXPECT_EQ(run({Export, complete, u"--pdf"_s, pdf}), 0);
+    EXPECT_EQ(contentOf(pdf), QByteArray("%PDF"));
+    ASSERT_EQ(prints.size(), 1);
+    EXPECT_TRUE(prints[0].html.contains(u"Folding Easel"));
+    EXPECT_TRUE(prints[0].html.contains(u"onselectstart"));
+    EXPECT_EQ(prints[0].title, u"Project - QF-7"_s);
+    EXPECT_EQ(prints[0].header, u""_s);
+    EXPECT_EQ(prints[0].footer, u"&bPage &p of &P&b"_s);
+}
+
+TEST_F(ExportCommandTest, keeps_the_old_file_when_the_new_one_cannot_be_written) {
+    const QString pdf = place(u"missing/draft.pdf"_s);
+    expectFailure({Export, complete, u"--pdf"_s, pdf}, pdf + u": No such file or directory"_s);
+    const QString incomplete = project("{}", u"new.json"_s);
+    EXPECT_EQ(run({Export, incomplete, u"--pdf"_s, place(u"draft.pdf"_s)}), 2);
+    EXPECT_FALSE(QFileInfo::exists(place(u"draft.pdf"_s)));
+}
+
 TEST_F(ExportCommandTest, writes_several_outputs_at_once_as_it_writes_each_alone) {
     run({Export, complete, Html, page});
     run({Export, complete, Index, index});
@@ -118,7 +138,7 @@ TEST_F(ExportCommandTest, draws_a_picture_that_cannot_be_read_without_a_size) {
 
 TEST_F(ExportCommandTest, expects_a_project_and_an_output) {
     const QString usage =
-        u"export PROJECT [--html FILE] [--index FILE] [--report FILE] [--incomplete]"_s;
+        u"export PROJECT [--html FILE] [--pdf FILE] [--index FILE] [--report FILE] [--incomplete]"_s;
     expectFailure({Export}, u"export: expects one project: "_s + usage);
     expectFailure({Export, complete, complete, Html, page},
                   u"export: expects one project: "_s + usage);

@@ -93,8 +93,8 @@ void drawLine(QPainter& painter, const PageLine& line, double top) {
     painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, line.right);
 }
 
-[[noreturn]] void raiseDeviceError(const QString& title) {
-    throw Error(DeviceError, QStringLiteral("The pages cannot be printed."), title);
+[[noreturn]] void raiseDeviceError() {
+    throw Error(DeviceError, QStringLiteral("The pages cannot be printed."));
 }
 
 } // namespace
@@ -171,17 +171,17 @@ void PagedDocument::drawPage(QPainter& painter, int page) const {
 void PagedDocument::printOn(QPagedPaintDevice& paper, const QList<int>& pages) {
     QPainter painter;
     if (!painter.begin(&paper))
-        raiseDeviceError(job_.title);
+        raiseDeviceError();
     // Line drawings keep their edges.
     painter.setRenderHint(QPainter::LosslessImageRendering);
     painter.scale(paper.logicalDpiX() / UnitsPerInch, paper.logicalDpiY() / UnitsPerInch);
     for (qsizetype i = 0; i < pages.size(); ++i) {
         if (i > 0 && !paper.newPage())
-            raiseDeviceError(job_.title);
+            raiseDeviceError();
         drawPage(painter, pages[i]);
     }
     if (!painter.end())
-        raiseDeviceError(job_.title);
+        raiseDeviceError();
 }
 
 } // namespace quillford

@@ -116,11 +116,11 @@ TEST_F(PagedDocumentTest, prints_the_pages_that_it_is_told) {
     EXPECT_TRUE(pdf.contains("/Count 3"));
 }
 
-TEST_F(PagedDocumentTest, names_the_print_that_the_device_refuses) {
+TEST_F(PagedDocumentTest, raises_an_error_when_the_device_takes_nothing) {
     QPdfWriter writer(path(u"missing/print.pdf"_s));
     PagedDocument document = pages(preview());
     const Error error = errorOf([&] { document.printOn(writer, {1}); });
-    EXPECT_EQ(error.source(), u"a print"_s);
+    EXPECT_EQ(error.description(), u"The pages cannot be printed."_s);
 }
 
 TEST_F(PagedDocumentTest, reads_pictures_of_a_help_page_from_its_folder_and_no_others) {
