@@ -3,6 +3,7 @@
 #include "platform/Folders.h"
 #include "platform/PictureReader.h"
 #include "platform/PrintJob.h"
+#include "platform/WordProcessor.h"
 
 #include <QByteArray>
 #include <QIODevice>
@@ -17,6 +18,7 @@ struct CliContext {
     QIODevice& errors; ///< standard error
     Folders& folders;
     PictureReader& pictures;
+    WordProcessor& word;
     /// Prints into the bytes of a PDF file; raises `Error` when it cannot.
     std::function<QByteArray(const PrintJob&)> printPdf = {};
 

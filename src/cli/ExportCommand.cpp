@@ -9,14 +9,18 @@
 #include "draft/commands/PageSetup.h"
 #include "draft/compose/HtmlComposer.h"
 #include "draft/compose/IndexComposer.h"
+#include "draft/compose/WordComposer.h"
 #include "persistence/project/WorkingCopies.h"
 #include "verification/engine/ErrorReportComposer.h"
+
+#include <QBuffer>
 
 namespace quillford {
 
 namespace {
 
 const QString HtmlOption = QStringLiteral("html");
+const QString WordOption = QStringLiteral("word");
 const QString PdfOption = QStringLiteral("pdf");
 const QString IndexOption = QStringLiteral("index");
 const QString ReportOption = QStringLiteral("report");
@@ -26,7 +30,7 @@ constexpr int SectionNotComplete = 5;
 
 /// Every option that names a file to be written.
 const QStringList& outputOptions() {
-    static const QStringList options{HtmlOption, PdfOption, IndexOption, ReportOption};
+    static const QStringList options{HtmlOption, WordOption, PdfOption, IndexOption, ReportOption};
     return options;
 }
 
@@ -50,6 +54,23 @@ void exportHtml(const Project& project, const QString& path, CliContext& context
     HtmlComposer composer(project.fields, context.folders, prompts);
     QString written; // an empty text asks for a file
     if (!composer.ExportToHTML(path, written))
+        raiseFailure(composer.failure(), path);
+}
+
+/// The box that the composer shows would be a second line about the same failure.
+void exportWord(const Project& project, const QString& path, CliContext& context) {
+    constexpr int NoWordProcessor = 429;
+    constexpr int IsOpen = 70;
+    QBuffer unsaid;
+    unsaid.open(QIODevice::WriteOnly);
+    CliPrompts quiet(unsaid);
+    WordComposer composer(project.fields, context.folders, quiet, context.word);
+    if (!context.word.isInstalled())
+        throw Error(NoWordProcessor,
+                    QStringLiteral("--word needs LibreOffice Writer, which is not installed"));
+    if (composer.checkDocFileOpenAndClose(path))
+        throw Error(IsOpen, QStringLiteral("the document is open in the word processor"));
+    if (!composer.ExportToWord(path))
         raiseFailure(composer.failure(), path);
 }
 
@@ -132,6 +153,9 @@ ExitStatus ExportCommand::executeOn(const QCommandLineParser& parser, Project& p
         requireComplete(project, prompts);
     if (parser.isSet(HtmlOption))
         exportHtml(project, parser.value(HtmlOption), context, prompts);
+    if (parser.isSet(WordOption))
+        about(parser.value(WordOption),
+              [&] { exportWord(project, parser.value(WordOption), context); });
     if (parser.isSet(PdfOption))
         exportPdf(project, parser.value(PdfOption), context, prompts);
     if (parser.isSet(IndexOption))

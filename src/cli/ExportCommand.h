@@ -10,14 +10,16 @@ public:
     [[nodiscard]] QString name() const override { return QStringLiteral("export"); }
 
     [[nodiscard]] QString usage() const override {
-        return QStringLiteral("PROJECT [--html FILE] [--pdf FILE] [--index FILE] [--report FILE]\n"
-                              "[--incomplete]");
+        return QStringLiteral(
+            "PROJECT [--html FILE] [--word FILE] [--pdf FILE] [--index FILE] [--report FILE]\n"
+            "[--incomplete]");
     }
 
     [[nodiscard]] QString description() const override {
         return QStringLiteral(
-            "writes the Final Draft as HTML and as it is printed, and the Index of Elements and\n"
-            "the error report of the verification as pages of their own;\n"
+            "writes the Final Draft as HTML, as a Word document (where LibreOffice Writer is\n"
+            "installed) and as it is printed, and the Index of Elements and the error report of\n"
+            "the verification as pages of their own;\n"
             "refused while a section is incomplete, unless --incomplete is given");
     }
 

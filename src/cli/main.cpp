@@ -1,6 +1,7 @@
 #include "cli/CliProgram.h"
 #include "cli/CliPrompts.h"
 #include "draft/pages/PdfFile.h"
+#include "platform/linux/LibreOffice.h"
 #include "platform/linux/LinuxFolders.h"
 #include "platform/linux/QtPictureReader.h"
 #include "platform/linux/QuietErrors.h"
@@ -44,11 +45,12 @@ int main(int argc, char** argv) {
         return static_cast<int>(quillford::ExitStatus::Failed);
     quillford::LinuxFolders folders;
     quillford::QtPictureReader pictures;
+    quillford::LibreOffice word(folders);
     const auto printPdf = [&pictures](const quillford::PrintJob& job) {
         const quillford::QuietErrors quiet; // what a library says of the user's fonts
         return quillford::pdfOf(job, pictures);
     };
-    quillford::CliContext context{output, errors, folders, pictures, printPdf};
+    quillford::CliContext context{output, errors, folders, pictures, word, printPdf};
     const int status = quillford::CliProgram(context).run(QCoreApplication::arguments().sliced(1));
     const bool isTold = status == static_cast<int>(quillford::ExitStatus::Failed);
     if (isTold || output.flush())

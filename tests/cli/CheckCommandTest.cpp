@@ -1,5 +1,6 @@
 #include "cli/CliProgram.h"
 #include "support/FakeFolders.h"
+#include "support/FakeWordProcessor.h"
 #include "support/Files.h"
 #include "support/PrintQt.h"
 
@@ -36,7 +37,7 @@ protected:
     int run(const QStringList& arguments) {
         output.buffer().clear();
         output.seek(0);
-        CliContext context{output, errors, folders, pictures};
+        CliContext context{output, errors, folders, pictures, word};
         return CliProgram(context).run(arguments);
     }
 
@@ -89,6 +90,7 @@ protected:
     QBuffer output;
     QBuffer errors;
     FakeFolders folders;
+    FakeWordProcessor word;
     NoPictures pictures;
 };
 

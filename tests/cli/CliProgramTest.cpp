@@ -94,14 +94,14 @@ TEST_F(CliProgramTest, fails_when_its_output_takes_only_a_part) {
     errors.open(QIODevice::WriteOnly);
     for (const int room : {0, 1, 17}) {
         FullDevice full(room);
-        CliContext context{full, errors, folders, pictures};
+        CliContext context{full, errors, folders, pictures, word};
         EXPECT_EQ(CliProgram(context).run({u"--version"_s}), 2);
         EXPECT_EQ(errors.data(), "quillford-cli: standard output: No space left on device\n");
         errors.buffer().clear();
         errors.seek(0);
     }
     FullDevice wide(18);
-    CliContext context{wide, errors, folders, pictures};
+    CliContext context{wide, errors, folders, pictures, word};
     EXPECT_EQ(CliProgram(context).run({u"--version"_s}), 0);
     EXPECT_EQ(errors.data(), QByteArray());
 }
@@ -112,7 +112,7 @@ TEST_F(CliProgramTest, tells_an_unexpected_failure_in_one_line) {
     QBuffer errors;
     outputs.open(QIODevice::WriteOnly);
     errors.open(QIODevice::WriteOnly);
-    CliContext context{outputs, errors, folders, greedy};
+    CliContext context{outputs, errors, folders, greedy, word};
     const QString path = project(R"({"txtAttachFig": ["a.png"]})");
     const QString page = place(u"out.htm"_s);
     EXPECT_EQ(CliProgram(context).run({u"export"_s, u"--incomplete"_s, u"--html"_s, page, path}),

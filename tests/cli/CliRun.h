@@ -3,6 +3,7 @@
 #include "cli/CliProgram.h"
 #include "support/FakeFolders.h"
 #include "support/FakePictureReader.h"
+#include "support/FakeWordProcessor.h"
 #include "support/Files.h"
 #include "support/PrintQt.h"
 
@@ -31,7 +32,7 @@ protected:
             prints.append(job);
             return QByteArray("%PDF");
         };
-        CliContext context{outputs, errors, folders, pictures, print};
+        CliContext context{outputs, errors, folders, pictures, word, print};
         const int status = CliProgram(context).run(arguments);
         output = outputs.data();
         error = errors.data();
@@ -71,6 +72,7 @@ protected:
     QTemporaryDir folder;
     FakeFolders folders;
     FakePictureReader pictures;
+    FakeWordProcessor word;
     QList<PrintJob> prints; ///< of all runs
     QByteArray output;
     QByteArray error;

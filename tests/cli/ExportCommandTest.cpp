@@ -13,6 +13,7 @@ namespace {
 
 const QString Export = u"export"_s;
 const QString Html = u"--html"_s;
+const QString Word = u"--word"_s;
 const QString Index = u"--index"_s;
 const QString Incomplete = u"--incomplete"_s;
 
@@ -93,6 +94,39 @@ TEST_F(ExportCommandTest, replaces_an_older_output_and_keeps_its_rights) {
     EXPECT_EQ(files(), QStringList({u"draft.htm"_s, u"project.json"_s}));
 }
 
+TEST_F(ExportCommandTest, writes_the_final_draft_as_a_word_document) {
+    word.templateText = u"A [1-INVENTION TITLE]"_s;
+    const QString document = place(u"draft.doc"_s);
+    EXPECT_EQ(run({Export, complete, Word, document}), 0);
+    EXPECT_EQ(output + error, QByteArray());
+    EXPECT_EQ(contentOf(document), "A folding easel");
+    EXPECT_EQ(files(), QStringList({u"draft.doc"_s, u"project.json"_s}));
+    EXPECT_TRUE(QDir(folders.temporary).isEmpty());
+}
+
+TEST_F(ExportCommandTest, tells_in_one_line_why_there_is_no_word_document) {
+    const QString document = place(u"draft.doc"_s);
+    word.failingOperation = 1;
+    expectFailure({Export, complete, Word, document},
+                  document + u": the word processor has died"_s);
+    word.failingOperation = 0;
+    word.openDocuments = {document};
+    expectFailure({Export, complete, Word, document},
+                  document + u": the document is open in the word processor"_s);
+    word.installed = false;
+    expectFailure({Export, complete, Word, document},
+                  document + u": --word needs LibreOffice Writer, which is not installed"_s);
+    EXPECT_EQ(files(), QStringList({u"project.json"_s}));
+}
+
+TEST_F(ExportCommandTest, names_the_picture_that_is_missing_from_a_word_document) {
+    word.templateText = u"[IMAGE OF DRAWING]"_s;
+    const QString path = project(R"({"txtAttachFig": ["gone.png"]})");
+    EXPECT_EQ(run({Export, path, Incomplete, Word, place(u"draft.doc"_s)}), 2);
+    EXPECT_TRUE(error.contains("there is no such picture")) << error.toStdString();
+    EXPECT_FALSE(QFileInfo::exists(place(u"draft.doc"_s)));
+}
+
 TEST_F(ExportCommandTest, lists_the_sections_that_are_incomplete) {
     const QString path = project("{}", u"new.json"_s);
     expectFailure({Export, path, Html, page},
@@ -138,7 +172,8 @@ TEST_F(ExportCommandTest, draws_a_picture_that_cannot_be_read_without_a_size) {
 
 TEST_F(ExportCommandTest, expects_a_project_and_an_output) {
     const QString usage =
-        u"export PROJECT [--html FILE] [--pdf FILE] [--index FILE] [--report FILE] [--incomplete]"_s;
+        u"export PROJECT [--html FILE] [--word FILE] [--pdf FILE] [--index FILE] [--report FILE] "
+        "[--incomplete]"_s;
     expectFailure({Export}, u"export: expects one project: "_s + usage);
     expectFailure({Export, complete, complete, Html, page},
                   u"export: expects one project: "_s + usage);

@@ -1,6 +1,7 @@
 #include "platform/linux/LibreOffice.h"
 
 #include "base/Error.h"
+#include "platform/linux/WriterStart.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -22,18 +23,20 @@ QString lockFile(const QString& document) {
 
 } // namespace
 
-WriterStart LibreOffice::usualStart(const QString& workFolder) {
-    return {.programFolder = QStringLiteral(QUILLFORD_LIBREOFFICE "/program"),
-            .workFolder = workFolder,
-            .patience = std::chrono::minutes(1)};
+QString LibreOffice::usualPrograms() {
+    return QStringLiteral(QUILLFORD_LIBREOFFICE "/program");
 }
 
-LibreOffice::LibreOffice(QString module, WriterStart start)
-    : module_(std::move(module)), start_(std::move(start)) {}
+LibreOffice::LibreOffice(Folders& folders, QString programs, std::chrono::milliseconds patience)
+    : folders_(folders), programs_(std::move(programs)), patience_(patience) {}
+
+QString LibreOffice::module() const {
+    return folders_.programFolder() + QStringLiteral("/quillford_writer.so");
+}
 
 bool LibreOffice::isInstalled() const {
-    const QDir programs(start_.programFolder);
-    return QFileInfo(module_).isFile() &&
+    const QDir programs(programs_);
+    return QFileInfo(module()).isFile() &&
            QFileInfo(programs.filePath(QStringLiteral("soffice.bin"))).isExecutable() &&
            QFileInfo(programs.filePath(QStringLiteral("libmswordlo.so"))).isFile();
 }
@@ -46,12 +49,13 @@ bool LibreOffice::isDocumentOpen(const QString& path) const {
 std::unique_ptr<WordApplication> LibreOffice::start() {
     if (!isInstalled())
         throw Error(CannotCreate, QStringLiteral("LibreOffice Writer is not installed"));
-    QLibrary library(module_);
+    QLibrary library(module());
     library.setLoadHints(QLibrary::PreventUnloadHint);
     const QFunctionPointer function = library.resolve(StartWriterName);
     if (!function)
-        throw Error(CannotCreate, library.errorString(), module_);
-    return std::unique_ptr<WordApplication>(reinterpret_cast<StartWriter*>(function)(start_));
+        throw Error(CannotCreate, library.errorString(), module());
+    const WriterStart settings{programs_, folders_.temporaryFolder(), patience_};
+    return std::unique_ptr<WordApplication>(reinterpret_cast<StartWriter*>(function)(settings));
 }
 
 } // namespace quillford

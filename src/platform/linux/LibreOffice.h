@@ -1,9 +1,11 @@
 #pragma once
 
+#include "platform/Folders.h"
 #include "platform/WordProcessor.h"
-#include "platform/linux/WriterStart.h"
 
 #include <QString>
+
+#include <chrono>
 
 namespace quillford {
 
@@ -11,14 +13,17 @@ namespace quillford {
 /// first start, so that the program itself starts without LibreOffice.
 class LibreOffice final : public WordProcessor {
 public:
-    /// The start that serves a user: LibreOffice as it is installed, and a minute's patience.
-    [[nodiscard]] static WriterStart usualStart(const QString& workFolder);
+    /// LibreOffice as it is installed.
+    [[nodiscard]] static QString usualPrograms();
 
-    /// The module's file name in the program's folder.
-    [[nodiscard]] static QString moduleName() { return QStringLiteral("quillford_writer.so"); }
-
-    /// @param module  the path of the module
-    LibreOffice(QString module, WriterStart start);
+    /// The module lies in the program's folder, and LibreOffice works in a private folder within
+    /// the temporary one.
+    ///
+    /// @param folders   is not owned and outlives this
+    /// @param programs  the folder in which LibreOffice's programs lie
+    /// @param patience  how long LibreOffice may take for its start and for any single answer
+    explicit LibreOffice(Folders& folders, QString programs = usualPrograms(),
+                         std::chrono::milliseconds patience = std::chrono::minutes(1));
 
     /// Whether the module, LibreOffice and its filter for Word documents are all there.
     [[nodiscard]] bool isInstalled() const override;
@@ -29,8 +34,11 @@ public:
     [[nodiscard]] std::unique_ptr<WordApplication> start() override;
 
 private:
-    QString module_;
-    WriterStart start_;
+    [[nodiscard]] QString module() const;
+
+    Folders& folders_;
+    QString programs_;
+    std::chrono::milliseconds patience_;
 };
 
 } // namespace quillford

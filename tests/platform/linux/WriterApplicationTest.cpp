@@ -24,7 +24,8 @@ protected:
         if (IsSkipped() || application())
             return;
         static QTemporaryDir work;
-        application() = LibreOffice(module, LibreOffice::usualStart(work.path())).start();
+        folders.temporary = work.path();
+        application() = libreOffice.start();
     }
 
     [[nodiscard]] static bool isReal() { return GetParam(); }

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "platform/linux/LibreOffice.h"
+#include "support/FakeFolders.h"
 #include "support/Files.h"
 
 #include <QTemporaryDir>
 
 namespace quillford {
 
-/// LibreOffice as the tests start it: the module that was built beside them, a work folder of the
-/// test's own, and a patience that a busy machine does not exhaust.
+/// LibreOffice as the tests start it: through the module that was built beside them, in a temporary
+/// folder of the test's own.
 class WriterTesting : public testing::Test {
 protected:
     void SetUp() override {
@@ -18,16 +19,16 @@ protected:
 
     [[nodiscard]] QString path(const QString& name) const { return folder.filePath(name); }
 
-    [[nodiscard]] WriterStart start() const {
-        const QString work = folder.filePath(QStringLiteral("work"));
-        EXPECT_TRUE(QDir().mkpath(work));
-        return LibreOffice::usualStart(work);
+    WriterTesting() {
+        folders.program = QStringLiteral(QUILLFORD_BUILD_TREE "/Quillford/quillford");
+        folders.temporary = path(QStringLiteral("work"));
+        EXPECT_TRUE(QDir().mkpath(folders.temporary));
     }
 
     /// Nothing of a run is left in its work folder, and no process runs from there.
     void expectNothingIsLeft() const {
-        EXPECT_TRUE(QDir(start().workFolder).isEmpty());
-        EXPECT_EQ(processesOf(start().workFolder), QStringList());
+        EXPECT_TRUE(QDir(folders.temporary).isEmpty());
+        EXPECT_EQ(processesOf(folders.temporary), QStringList());
     }
 
     /// The numbers of the processes whose command line names the folder.
@@ -57,8 +58,8 @@ protected:
     }
 
     QTemporaryDir folder;
-    QString module = QStringLiteral(QUILLFORD_BUILD_TREE "/Quillford/") + LibreOffice::moduleName();
-    LibreOffice libreOffice{module, start()};
+    FakeFolders folders;
+    LibreOffice libreOffice{folders};
 
 private:
     /// Styles named "plain" and "new-page", and "bold" for spans.

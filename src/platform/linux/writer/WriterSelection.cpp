@@ -3,6 +3,7 @@
 #include "platform/linux/writer/UnoCalls.h"
 
 #include <algorithm>
+#include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XEnumeration.hpp>
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/datatransfer/XTransferableSupplier.hpp>
@@ -20,6 +21,8 @@ namespace {
 using css::uno::Reference;
 using css::uno::UNO_QUERY;
 using css::uno::UNO_QUERY_THROW;
+
+const rtl::OUString ParagraphStyle("ParaStyleName");
 
 /// The text as Writer takes it, where a carriage return alone starts a paragraph. The other control
 /// characters, and those that Writer itself uses to anchor things in a text, are no text.
@@ -145,11 +148,33 @@ void WriterSelection::copy() {
     const Reference<css::datatransfer::XTransferableSupplier> view(
         document_->getCurrentController(), UNO_QUERY_THROW);
     copied_ = view->getTransferable();
+    copyHasParagraphs_ = text().contains(u'\r');
+    const Reference<css::beans::XPropertySet> first(
+        body_->createTextCursorByRange(cursor_->getStart()), UNO_QUERY_THROW);
+    copiedStyle_ = first->getPropertyValue(ParagraphStyle);
 }
 
+/// The first paragraph that is pasted takes the format of the one it is pasted into. Where it opens
+/// that one, it shall have the style that it was copied with.
 void WriterSelection::paste() {
     if (!cursor_->isCollapsed())
         setText({});
+    const bool opensParagraph = copyHasParagraphs_ && isStartOfParagraph();
+    const Reference<css::text::XTextCursor> first =
+        body_->createTextCursorByRange(cursor_->getStart());
+    const bool isFirstOfAll = !first->goLeft(1, false);
+    pasteAtCursor();
+    if (!opensParagraph)
+        return;
+    if (!isFirstOfAll)
+        first->goRight(1, false); // from the paragraph before, where the paste did not move it
+    else
+        first->gotoStart(false);
+    const Reference<css::beans::XPropertySet> properties(first, UNO_QUERY_THROW);
+    properties->setPropertyValue(ParagraphStyle, copiedStyle_);
+}
+
+void WriterSelection::pasteAtCursor() {
     const Reference<css::text::XTextViewCursor> place = viewCursor();
     place->gotoRange(cursor_.get(), false);
     const Reference<css::datatransfer::XTransferableSupplier> view(
@@ -165,6 +190,11 @@ void WriterSelection::insert(const Reference<css::text::XTextContent>& content) 
 }
 
 // ---- deleting
+
+bool WriterSelection::isStartOfParagraph() const {
+    const Reference<css::text::XParagraphCursor> paragraph(cursor_, UNO_QUERY_THROW);
+    return paragraph->isStartOfParagraph();
+}
 
 bool WriterSelection::isEmptyParagraph() const {
     const Reference<css::text::XParagraphCursor> paragraph(cursor_, UNO_QUERY_THROW);

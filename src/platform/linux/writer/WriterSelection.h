@@ -9,6 +9,7 @@
 #include <com/sun/star/text/XTextDocument.hpp>
 #include <com/sun/star/text/XTextRange.hpp>
 #include <com/sun/star/text/XTextViewCursor.hpp>
+#include <com/sun/star/uno/Any.hxx>
 
 namespace quillford {
 
@@ -47,15 +48,19 @@ public:
 private:
     [[nodiscard]] bool isInBody(const Range& range) const;
     [[nodiscard]] bool isSelected(const QString& text) const;
+    [[nodiscard]] bool isStartOfParagraph() const;
     [[nodiscard]] bool isEmptyParagraph() const;
     void removeParagraph();
     void replaceText(const QString& text);
+    void pasteAtCursor();
     [[nodiscard]] css::uno::Reference<css::text::XTextViewCursor> viewCursor() const;
 
     css::uno::Reference<css::text::XTextDocument> document_;
     css::uno::Reference<css::text::XText> body_;
     css::uno::Reference<css::text::XTextCursor> cursor_;
     css::uno::Reference<css::datatransfer::XTransferable> copied_;
+    css::uno::Any copiedStyle_;
+    bool copyHasParagraphs_ = false;
 };
 
 } // namespace quillford
