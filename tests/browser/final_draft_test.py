@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Exports drafts with quillford-cli, prints them with a browser and measures the paper.
+"""Prints drafts, either as quillford-cli does itself or with a browser from what it exports, and
+measures the paper.
 
-    final_draft_test.py QUILLFORD_CLI SOURCE_TREE
+    final_draft_test.py QUILLFORD_CLI SOURCE_TREE program|browser
 """
 import json
 import re
@@ -26,10 +27,13 @@ IMAGE = re.compile(r'<img src="file:///(.*?)" width ="(\d*)" height ="(\d*)"> ')
 
 def export(project, name):
     """Composes the draft of a project file and prints it; gives the page's text and the paper."""
-    page = FOLDER / f"{name}.htm"
-    subprocess.run([CLI, "export", project, "--html", page, "--incomplete"], check=True,
+    page, pdf = FOLDER / f"{name}.htm", FOLDER / f"{name}.pdf"
+    outputs = ["--html", page] if PRINTER == "browser" else ["--html", page, "--pdf", pdf]
+    subprocess.run([CLI, "export", project, *outputs, "--incomplete"], check=True,
                    env=printing.environment(FOLDER))
-    return page.read_text(encoding="utf-8"), printing.print_page(page, FOLDER)
+    paper = (printing.print_page(page, FOLDER) if PRINTER == "browser"
+             else printing.FootedPaper(pdf))
+    return page.read_text(encoding="utf-8"), paper
 
 
 class DraftCase(unittest.TestCase):
@@ -58,6 +62,30 @@ class FoldingEasel(DraftCase):
     @classmethod
     def setUpClass(cls):
         cls.html, cls.paper = export(TREE / "samples/folding-easel/folding-easel.json", "easel")
+
+    @unittest.skipIf(len(sys.argv) > 3 and sys.argv[3] == "browser", "a browser prints no footer")
+    def test_every_sheet_has_its_number_centred_at_its_foot(self):
+        count = len(self.paper.pages)
+        for number, foot in enumerate(self.paper.feet, 1):
+            self.assertEqual(foot.text, f"Page {number} of {count}")
+            self.assert_near(foot.centre, MIDDLE, foot.text)
+            self.assertGreater(foot.top, 792 - INCH)
+            self.assertLess(foot.bottom, 792 - 18)
+
+    def test_text_is_text_in_fonts_that_the_file_brings_along(self):
+        fonts = self.paper.fonts()
+        self.assertGreaterEqual(len(fonts), 3)
+        for font in fonts:
+            self.assertTrue(font.is_embedded and font.is_readable, font)
+
+    def test_every_line_stands_on_the_paper_once(self):
+        lines = [line.text for page in self.paper.pages for line in page if len(line.text) > 40]
+        self.assertEqual(len(lines), len(set(lines)))
+
+    def test_no_heading_stands_at_the_end_of_a_page(self):
+        for page in self.paper.pages:
+            if page:
+                self.assertNotRegex(page[-1].text, r"^[A-H]\. [A-Z]")
 
     def paragraph(self, start, end):
         """The lines of a paragraph that stands on one page."""
@@ -221,7 +249,8 @@ class WordsWithoutEnd(DraftCase):
 
 
 if __name__ == "__main__":
-    missing = printing.missing_tools()
+    PRINTER = sys.argv[3]
+    missing = printing.missing_tools(PRINTER)
     if missing:
         print(f"skipped: {', '.join(missing)} cannot be found")
         sys.exit(SKIPPED)

@@ -1,4 +1,4 @@
-"""Prints a page with a browser and reads the paper back with poppler's tools. Lengths are points,
+"""Prints a page with a browser and reads paper back with poppler's tools. Lengths are points,
 counted from the upper left corner of the sheet."""
 import html
 import os
@@ -9,7 +9,7 @@ import subprocess
 from dataclasses import dataclass
 from pathlib import Path
 
-TOOLS = ["chromium", "pdfinfo", "pdftotext", "pdfimages", "pdftoppm"]
+TOOLS = ["pdffonts", "pdftotext", "pdfimages", "pdftoppm"]
 SECONDS_FOR_CHROMIUM = 120
 
 # The browser starts from nothing, asks nothing of anybody and finds no host.
@@ -27,8 +27,9 @@ LINE = re.compile(rf"<line xMin={NUMBER} yMin={NUMBER} xMax={NUMBER} yMax={NUMBE
 WORD = re.compile(r">([^<]*)</word>")
 
 
-def missing_tools():
-    return [tool for tool in TOOLS if shutil.which(tool) is None]
+def missing_tools(printer):
+    tools = TOOLS + ["chromium"] if printer == "browser" else TOOLS
+    return [tool for tool in tools if shutil.which(tool) is None]
 
 
 @dataclass
@@ -56,6 +57,13 @@ class Picture:
     height: int
     x_ppi: int
     y_ppi: int
+
+
+@dataclass
+class Font:
+    name: str
+    is_embedded: bool
+    is_readable: bool  # its letters are known, so that text can be searched and copied
 
 
 class Sheet:
@@ -107,9 +115,22 @@ class Paper:
                                      int(cells[13])))
         return found
 
+    def fonts(self):
+        rows = _output("pdffonts", self._pdf).decode().splitlines()[2:]
+        return [Font(row.split()[0], row.split()[-5] == "yes", row.split()[-3] == "yes")
+                for row in rows]
+
     def sheet(self, page):
         return Sheet(_output("pdftoppm", "-gray", "-r", str(72 * Sheet.SCALE), "-f", str(page),
                              "-l", str(page), self._pdf))
+
+
+class FootedPaper(Paper):
+    """Paper with a line at the foot of each page, which is no part of its text."""
+
+    def __init__(self, pdf):
+        super().__init__(pdf)
+        self.feet = [page.pop() for page in self.pages]
 
 
 def _lines(content):

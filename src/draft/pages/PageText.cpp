@@ -14,7 +14,7 @@ namespace quillford {
 
 namespace {
 
-constexpr int UnknownLength = 24;
+constexpr int UnknownLength = 16;
 constexpr int KeepsWithNextState = 1; // as the style sheets write it
 
 /// Stands in for a picture that cannot be shown.
@@ -68,17 +68,6 @@ void shrinkBlanks(const QTextBlock& block) {
     }
 }
 
-/// A drawing is up to 660 pixels wide and reaches into both margins; the toolkit would let all of
-/// it stand out at the right.
-void centreOnPaper(const QTextBlock& block, double width) {
-    if (width <= PaperTextWidth)
-        return;
-    QTextBlockFormat outwards;
-    outwards.setAlignment(Qt::AlignLeft);
-    outwards.setTextIndent((PaperTextWidth - width) / 2);
-    QTextCursor(block).mergeBlockFormat(outwards);
-}
-
 void separateOnScreen(const QTextBlock& block) {
     constexpr int Gap = 64;
     QTextBlockFormat apart;
@@ -90,8 +79,6 @@ void finishBlock(QTextDocument& document, const QTextBlock& block, Medium medium
     if (const auto figure = pictureIn(block)) {
         fitPicture(document, *figure, medium);
         shrinkBlanks(block);
-        if (medium == Medium::Paper)
-            centreOnPaper(block, figure->width());
     }
     if (medium == Medium::Screen && beginsPage(block))
         separateOnScreen(block);

@@ -9,9 +9,6 @@
 
 namespace quillford {
 
-/// The width of the text on paper, in pixels of 96 to the inch.
-inline constexpr double PaperTextWidth = 6.5 * 96;
-
 /// Where a page is shown: on a screen one page flows into the next, with a gap between them.
 enum class Medium { Screen, Paper };
 

@@ -1,26 +1,21 @@
 #pragma once
 
 #include "draft/pages/PageCuts.h"
-#include "draft/pages/PageLine.h"
+#include "draft/pages/PaperText.h"
 #include "platform/PictureLoader.h"
 #include "platform/PrintJob.h"
 #include "platform/PrintedPages.h"
 
 #include <QPainter>
-#include <QTextDocument>
-
-#include <memory>
 
 namespace quillford {
 
-/// An HTML page on paper: Letter with margins of an inch. It is laid out once, in pixels of which
-/// 96 make an inch, and then drawn as it stands at any resolution.
+/// An HTML page on paper: Letter with margins of an inch. It is laid out once, and then drawn as it
+/// stands at any resolution.
 class PagedDocument final : public PrintedPages {
 public:
-    /// Lays the page out; `setPage` tells how. The pictures of a page that the program has not
-    /// composed are looked for below `job.folder`.
+    /// Lays the page out: see `PaperText`.
     PagedDocument(const PrintJob& job, PictureLoader& pictures);
-    ~PagedDocument() override;
 
     [[nodiscard]] int pageCount() const override { return static_cast<int>(cuts_.size()); }
 
@@ -31,12 +26,10 @@ public:
     void printOn(QPagedPaintDevice& paper, const QList<int>& pages) override;
 
 private:
-    [[nodiscard]] QList<Band> bands() const;
-    double drawRestOfParagraph(QPainter& painter, const PageCut& cut) const;
     void drawText(QPainter& painter, const PageCut& cut) const;
 
     PrintJob job_;
-    std::unique_ptr<QTextDocument> text_;
+    PaperText text_;
     QList<PageCut> cuts_;
 };
 

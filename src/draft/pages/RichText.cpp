@@ -100,15 +100,15 @@ void frameNotice(QString& html) {
         match.capturedStart(), match.capturedLength(),
         QStringLiteral("<p class=\"space\">&nbsp;</p>"
                        "<table width=\"100%\" border=\"3\" cellspacing=\"0\" cellpadding=\"12\" "
-                       "style=\"border-style:solid; border-color:black; border-collapse:collapse\">"
+                       "style=\"margin-left:-3px; margin-right:-3px; border-style:solid; border-color:black; border-collapse:collapse\">"
                        "<tr><td class=\"notice\">") +
             match.captured(1) + QStringLiteral("</td></tr></table><p class=\"space\">&nbsp;</p>"));
 }
 
 /// What stands between two paragraphs would become a blank at the end of the first.
 void cutBetweenParagraphs(QString& html) {
-    static const QRegularExpression between(QStringLiteral("</p>\\s+(?=<)"));
-    html.replace(between, QStringLiteral("</p>"));
+    static const QRegularExpression between(QStringLiteral("</(p|div)>\\s+(?=<)"));
+    html.replace(between, QStringLiteral("</\\1>"));
 }
 
 /// Gives height to what the toolkit leaves out: rules, line breaks between paragraphs, and empty

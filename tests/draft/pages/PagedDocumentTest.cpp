@@ -123,7 +123,7 @@ TEST_F(PagedDocumentTest, raises_an_error_when_the_device_takes_nothing) {
     EXPECT_EQ(error.description(), u"The pages cannot be printed."_s);
 }
 
-TEST_F(PagedDocumentTest, reads_pictures_of_a_help_page_from_its_folder_and_no_others) {
+TEST_F(PagedDocumentTest, a_page_of_files_shows_its_local_pictures) {
     QImage black(40, 40, QImage::Format_RGB32);
     black.fill(Qt::black);
     ASSERT_TRUE(QDir().mkpath(path(u"help"_s)));
@@ -135,8 +135,23 @@ TEST_F(PagedDocumentTest, reads_pictures_of_a_help_page_from_its_folder_and_no_o
         return ink.width() * ink.height();
     };
     EXPECT_EQ(inkOf(u"in.png"_s), 900);
-    EXPECT_EQ(inkOf(u"../out.png"_s), 0);
-    EXPECT_EQ(inkOf(path(u"out.png"_s)), 0);
+    EXPECT_EQ(inkOf(u"../out.png"_s), 900);
+    EXPECT_EQ(inkOf(u"gone.png"_s), 0);
     EXPECT_EQ(inkOf(u"file://"_s + path(u"help/in.png"_s)), 900);
     EXPECT_EQ(inkOf(u"http://host/in.png"_s), 0);
+}
+
+TEST_F(PagedDocumentTest, a_composed_page_reads_no_file_of_its_own) {
+    QImage black(40, 40, QImage::Format_RGB32);
+    black.fill(Qt::black);
+    ASSERT_TRUE(black.save(path(u"a.png"_s)));
+    for (const QString& name : {path(u"a.png"_s), u"file://"_s + path(u"a.png"_s)}) {
+        const PagedDocument page = pages(u"<img src=\"%1\" width=40 height=40>"_s.arg(name));
+        EXPECT_TRUE(inked(drawn(page, 1), QRect(100, 100, 30, 30)).isNull());
+    }
+}
+
+TEST_F(PagedDocumentTest, type_in_pixels_has_its_size_on_paper) {
+    const PagedDocument page = pages(u"<p style=\"font-size:96px; margin:0\">H</p>"_s);
+    EXPECT_NEAR(inked(drawn(page, 1), TextArea).height(), 96 * 0.66, 4);
 }
