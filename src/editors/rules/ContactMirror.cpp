@@ -63,19 +63,20 @@ void ContactMirror::release() {
     numberInventors(fields_.panelCount(FieldGroup::Inventors), order_);
 }
 
-/// Lists pass on as they stand, texts without their outer blanks. The zip code goes by the city:
-/// without a city it does not pass over.
 void ContactMirror::useContact() {
-    for (const MirrorPair& pair : Pairs) {
-        const Field& contact = fields_.at(pair.contact);
-        const bool isList = contact.row().kind == FieldKind::Combo;
-        const bool passes = pair.contact != txtZipStep1 || fields_.txtCityStep1.isFilled();
-        const bool asItStands = isList && (contact.isFilled() || pair.contact == cboCountryStep1);
-        passOn(pair.inventor, asItStands ? contact.text()
-                              : passes   ? contact.trimmedText()
-                                         : QString());
-    }
+    for (const MirrorPair& pair : Pairs)
+        passOn(pair.inventor, textToUse(fields_.at(pair.contact)));
     enableInventor(false);
+}
+
+/// The zip code goes by the city: without a city it does not pass over.
+QString ContactMirror::textToUse(const Field& contact) const {
+    const FieldId field = contact.row().id;
+    if (field == txtZipStep1 && !fields_.txtCityStep1.isFilled())
+        return {};
+    if (field == cboCountryStep1 || (field == cboStateStep1 && contact.isFilled()))
+        return contact.text();
+    return contact.trimmedText();
 }
 
 void ContactMirror::enableInventor(bool on) {

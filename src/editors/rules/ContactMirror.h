@@ -35,6 +35,7 @@ private:
 
     void release();
     void useContact();
+    [[nodiscard]] QString textToUse(const Field& contact) const;
     void enableInventor(bool on);
     void passOn(FieldId partner, const QString& text);
 

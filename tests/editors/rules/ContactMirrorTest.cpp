@@ -61,6 +61,14 @@ TEST_F(ContactMirrorTest, Yes_takes_the_contact_over_trimmed_but_for_lists) {
                            u"OH"_s, u"44301"_s, u"Great Britain "_s}));
 }
 
+TEST_F(ContactMirrorTest, Yes_takes_texts_typed_into_lists_over_with_their_blanks) {
+    fields.cboStateStep1.setText(u" Ohio "_s);
+    fields.cboCountryStep1.setText(u"  "_s);
+    check(true);
+    EXPECT_EQ(fields.cboStateStep2(0).text(), u" Ohio "_s);
+    EXPECT_EQ(fields.cboCitizenshipStep2(0).text(), u"  "_s);
+}
+
 TEST_F(ContactMirrorTest, Yes_disables_the_nine_fields) {
     check(true);
     EXPECT_EQ(calls("disable"), 9);

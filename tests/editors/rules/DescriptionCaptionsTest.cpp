@@ -68,6 +68,22 @@ TEST_F(DescriptionCaptions, questions_end_in_dots_at_315_and_330) {
               u"Describe All Possible Structural..."_s); // 33 characters, a blank the last
 }
 
+TEST_F(DescriptionCaptions, a_caption_one_pixel_narrower_than_its_limit_stays_whole) {
+    const auto isCut = [](const QString& caption) { return caption.contains(u"..."_s); };
+    const auto name = [](int width, const QString& about) {
+        return QString(width - about.size(), u'x');
+    };
+    const QString detail = u"Detailed Description of the "_s;
+    const QString variations =
+        u"Describe All Possible Structural and Functional Variations of the "_s;
+    EXPECT_FALSE(isCut(descriptionFrameCaption(0, 1, name(199, {}), narrow)));
+    EXPECT_TRUE(isCut(descriptionFrameCaption(0, 1, name(200, {}), narrow)));
+    EXPECT_FALSE(isCut(detailQuestion(0, name(314, detail), narrow)));
+    EXPECT_TRUE(isCut(detailQuestion(0, name(315, detail), narrow)));
+    EXPECT_FALSE(isCut(variationsQuestion(0, name(329, variations), narrow)));
+    EXPECT_TRUE(isCut(variationsQuestion(0, name(330, variations), narrow)));
+}
+
 TEST_F(DescriptionCaptions, the_star_stands_two_blanks_behind_the_question) {
     EXPECT_EQ(detailQuestionStar(u"Detailed Description of the Hinge"_s),
               u"Detailed Description of the Hinge  *"_s);

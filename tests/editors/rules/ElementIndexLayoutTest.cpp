@@ -111,6 +111,25 @@ TEST_F(ElementIndexLayout, a_word_longer_than_the_line_is_cut_between_characters
     EXPECT_EQ(texts(), QStringList({u"11:"_s, u"Counterbalanci"_s, u"ng"_s}));
 }
 
+TEST_F(ElementIndexLayout, a_line_as_wide_as_the_surface_leaves_stays_whole) {
+    class NarrowMeasure final : public TextMeasure {
+    public:
+        [[nodiscard]] double width(QStringView text, TextWeight) const override {
+            return static_cast<double>(text.size());
+        }
+
+        [[nodiscard]] int lineHeight() const override { return 13; }
+    };
+
+    const auto lines = [this](const QString& text) {
+        fields.txtElementSub1(0).setText(text);
+        return layOutElementIndex(fields, NarrowMeasure()).lines.size() - 1;
+    };
+    const QString word(100, u'x'); // 179 less 30 before and 3 behind the text are 146
+    EXPECT_EQ(lines(word + u' ' + QString(45, u'y')), 1);
+    EXPECT_EQ(lines(word + u' ' + QString(46, u'y')), 2);
+}
+
 TEST_F(ElementIndexLayout, bold_text_is_measured_bold) {
     fields.txtElementName(0).setText(u"counterbalancing"_s);
     EXPECT_EQ(texts(), QStringList({u"10:"_s, u"Counterbalan"_s, u"cing"_s}));

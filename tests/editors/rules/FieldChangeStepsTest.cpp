@@ -159,6 +159,13 @@ TEST_F(FieldChangeStepsTest, a_name_waits_until_section_6_has_its_panels) {
     EXPECT_EQ(fields.txtElementMain(0).text(), u"hinges"_s);
 }
 
+TEST_F(FieldChangeStepsTest, an_element_above_the_count_names_no_block_of_section_6) {
+    fields.setPanelCount(FieldGroup::MainElements, 4);
+    fields.txtElementName(3).setText(u"foot"_s);
+    EXPECT_EQ(fields.txtElementMain.count(), 3);
+    EXPECT_TRUE(log.has("white txtElementName(3)"));
+}
+
 TEST_F(FieldChangeStepsTest, section_6_names_section_5_whatever_the_panels) {
     fields.cboMainElementNum.setText(u"4"_s);
     fields.txtElementMain(0).setText(u"hinge"_s);

@@ -14,6 +14,7 @@ TEST(FigureFile, the_last_point_of_a_name_begins_its_ending) {
     EXPECT_EQ(figureExtension(u"scan.2.old.png"), u".png"_s);
     EXPECT_EQ(figureExtension(u"scan.png.old"), u".old"_s);
     EXPECT_EQ(figureExtension(u"scan."), u"."_s);
+    EXPECT_EQ(figureExtension(u".png"), u".png"_s);
     EXPECT_EQ(figureExtension(u"scan"), u""_s);
 }
 

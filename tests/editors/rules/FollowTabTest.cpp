@@ -96,6 +96,26 @@ TEST(FollowTab, figures_and_elements_are_found_by_the_height_of_the_first_panel)
               PanelTarget(1, false, 280 + 308 - 376));
 }
 
+TEST(FollowTab, a_field_that_ends_at_the_lower_edge_of_its_view_is_in_view) {
+    const auto moves = [](EditorColumn column, int panelHeight, int end) {
+        return FollowTab(column, stacked({panelHeight, panelHeight}, 0), {end - 20, 20, 1})
+            .has_value();
+    };
+    EXPECT_FALSE(moves(EditorColumn::Figures, 245, 344 - 245));
+    EXPECT_TRUE(moves(EditorColumn::Figures, 245, 344 - 244));
+    EXPECT_FALSE(moves(EditorColumn::MainElements, 139, 278 - 139));
+    EXPECT_TRUE(moves(EditorColumn::MainElements, 139, 278 - 138));
+    EXPECT_FALSE(moves(EditorColumn::SubElements, 308, 376 - 308));
+    EXPECT_TRUE(moves(EditorColumn::SubElements, 308, 376 - 307));
+    EXPECT_FALSE(moves(EditorColumn::Inventors, 270, 404 - 270));
+    EXPECT_TRUE(moves(EditorColumn::Inventors, 270, 404 - 269));
+}
+
+TEST(FollowTab, the_height_of_the_second_inventor_counts_for_all) {
+    EXPECT_EQ(FollowTab(EditorColumn::Inventors, stacked({270, 246, 300}, 0), {200, 20, 2}),
+              PanelTarget(2, false, 220 + 2 * 246 + 24 - 404));
+}
+
 TEST(FollowTab, a_description_is_in_view_while_it_ends_on_the_page_as_it_stands) {
     const QList<int> heights = {224, 224, 224};
     EXPECT_EQ(FollowTab(EditorColumn::Descriptions, stacked(heights, 28), {150, 27, 1}),
@@ -103,6 +123,8 @@ TEST(FollowTab, a_description_is_in_view_while_it_ends_on_the_page_as_it_stands)
     EXPECT_EQ(FollowTab(EditorColumn::Descriptions, stacked(heights, 28), {150, 28, 1}),
               PanelTarget(1, false, 178 + 224 - 399));
     EXPECT_EQ(FollowTab(EditorColumn::Descriptions, stacked(heights, 28, -400), {150, 28, 1}),
+              Nothing);
+    EXPECT_EQ(FollowTab(EditorColumn::Descriptions, stacked(heights, 28, -430), {150, 28, 1}),
               Nothing);
     EXPECT_EQ(FollowTab(EditorColumn::Descriptions, stacked(heights, 28, -431), {150, 28, 1}),
               PanelTarget(1, false, 3));
@@ -115,6 +137,7 @@ TEST(FollowTab, the_connections_are_found_below_all_panels) {
     EXPECT_EQ(FollowTabToConnections(page, {60, 100, 0}, 511),
               PanelTarget(0, false, 160 + 448 - 368));
     EXPECT_EQ(FollowTabToConnections(page, {60, 100, 0}, 269), Nothing);
+    EXPECT_NE(FollowTabToConnections(page, {60, 100, 0}, 270), Nothing);
 }
 
 TEST(FollowTab, the_alternative_goes_to_the_end_behind_the_last_panel) {

@@ -26,6 +26,7 @@ TEST_F(PanelTabOrderTest, an_object_takes_one_number) {
     numberPanels(FieldGroup::Objects, 1, 20, order);
     EXPECT_EQ(order.tabIndex(u"txtObject(1)"_s), 3);
     EXPECT_EQ(order.tabIndex(u"txtObject(19)"_s), 21);
+    EXPECT_EQ(order.tabIndex(u"txtObject(20)"_s), 0);
 }
 
 TEST_F(PanelTabOrderTest, a_figure_takes_four_numbers_and_its_path_none) {
@@ -66,6 +67,7 @@ TEST_F(PanelTabOrderTest, the_page_of_section_7_goes_through_the_panels_and_then
     order.setTabIndex(u"txtMainElementNameDetail(0)"_s, 4);
     numberDescriptions(3, order);
     EXPECT_EQ(order.tabIndex(u"txtMainElementVariations(0)"_s), 5);
+    EXPECT_EQ(order.tabIndex(u"txtMainElementNameDetail(1)"_s), 6);
     EXPECT_EQ(order.tabIndex(u"txtMainElementNameDetail(2)"_s), 8);
     EXPECT_EQ(order.tabIndex(u"txtMainElementVariations(2)"_s), 9);
     EXPECT_EQ(order.tabIndex(u"txtDesConnections"_s), 10);

@@ -47,6 +47,11 @@ TEST(ScrollBarState, one_object_never_scrolls_however_tall) {
     EXPECT_EQ(bar(EditorColumn::Objects, 1, 400, 400), off(81));
 }
 
+TEST(ScrollBarState, two_tall_objects_scroll_from_the_first_pixel_that_does_not_fit) {
+    EXPECT_EQ(bar(EditorColumn::Objects, 2, 162, 162), off(81));
+    EXPECT_EQ(bar(EditorColumn::Objects, 2, 163, 162), on(1, 161));
+}
+
 TEST(ScrollBarState, the_height_of_the_second_object_counts_for_all_further_ones) {
     EXPECT_EQ(scrollBarFor(EditorColumn::Objects, {94, 81, 107, 107}), on(13, 68));
     EXPECT_EQ(scrollBarFor(EditorColumn::Objects, {81, 94, 81, 81}), on(39, 107));

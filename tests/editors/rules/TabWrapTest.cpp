@@ -77,15 +77,30 @@ TEST_F(TabWrapTest, section_7_goes_round_by_its_last_field) {
     EXPECT_EQ(numberAfter({FieldId::txtDesAlterative}, u"txtDesAlterative"_s), 0);
 }
 
-TEST_F(TabWrapTest, the_ends_of_a_section_that_is_disabled_close_nothing) {
-    screen.enabled.fill(false);
-    EXPECT_EQ(numberAfter({FieldId::txtEmailStep1}, u"txtFileNo"_s), 99);
-    EXPECT_EQ(numberAfter({FieldId::cboCitizenshipStep2, 2}, u"cboCitizenshipStep2(2)"_s), 99);
-    EXPECT_EQ(numberAfter({FieldId::txtObject, 3}, u"txtPurpose"_s), 99);
-    EXPECT_EQ(numberAfter({FieldId::txtFigureDetail, 1}, u"cboFiguresNum"_s), 99);
-    EXPECT_EQ(numberAfter({FieldId::txtElementDes, 2}, u"txtMainElement"_s), 99);
-    EXPECT_EQ(numberAfter({FieldId::txtElementSub9, 2}, u"txtElementMain(0)"_s), 99);
-    EXPECT_EQ(numberAfter({FieldId::txtDesAlterative}, u"txtDesAlterative"_s), 99);
+TEST_F(TabWrapTest, an_end_closes_its_ring_only_while_its_own_section_is_enabled) {
+    struct End {
+        std::size_t tab;
+        FieldPlace reached;
+        QString moved;
+    };
+
+    const End ends[] = {
+        {0, {FieldId::txtEmailStep1}, u"txtFileNo"_s},
+        {1, {FieldId::cboCitizenshipStep2, 2}, u"cboCitizenshipStep2(2)"_s},
+        {2, {FieldId::txtObject, 3}, u"txtPurpose"_s},
+        {3, {FieldId::txtFigureDetail, 1}, u"cboFiguresNum"_s},
+        {4, {FieldId::txtElementDes, 2}, u"txtMainElement"_s},
+        {5, {FieldId::txtElementSub9, 2}, u"txtElementMain(0)"_s},
+        {6, {FieldId::txtDesAlterative}, u"txtDesAlterative"_s},
+    };
+    for (const End& end : ends) {
+        screen.enabled.fill(true);
+        screen.enabled.at(end.tab) = false;
+        EXPECT_EQ(numberAfter(end.reached, end.moved), 99) << end.tab;
+        screen.enabled.fill(false);
+        screen.enabled.at(end.tab) = true;
+        EXPECT_NE(numberAfter(end.reached, end.moved), 99) << end.tab;
+    }
 }
 
 TEST_F(TabWrapTest, the_beginnings_take_their_numbers_although_their_section_is_disabled) {
