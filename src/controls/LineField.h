@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/SpellMarks.h"
 #include "controls/TypingLimit.h"
 
 #include <QClipboard>
@@ -8,7 +9,8 @@
 namespace quillford {
 
 /// A field of one line. What is pasted or dropped into it keeps every character but line ends,
-/// each of which becomes a blank.
+/// each of which becomes a blank. Unknown words have a
+/// wavy line while the spell checker is bound to the field.
 class LineField : public QLineEdit {
     Q_OBJECT
 
@@ -40,13 +42,18 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     [[nodiscard]] qsizetype staying() const;
     [[nodiscard]] QString prepared(const QString& insertion, qsizetype staying) const;
     void endUndoStep();
     void insertFrom(QClipboard::Mode mode);
+    void offerWords(QMenu& menu, const QPoint& place);
+    void paintMarks();
+    [[nodiscard]] TextRange visiblePart();
 
+    SpellMarks marks_{*this, *this};
     TypingLimit limit_;
     bool tinted_ = false;
 };

@@ -2,11 +2,16 @@
 
 #include "controls/Theme.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
+#include <QPainter>
 #include <QScopedValueRollback>
+#include <QTextLayout>
 
 #include <algorithm>
+#include <memory>
 
 namespace quillford {
 
@@ -65,6 +70,12 @@ void TextField::setTint(bool on) {
     theme::setTint(*this, on);
 }
 
+void TextField::contextMenuEvent(QContextMenuEvent* event) {
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
+    offerWords(*menu, cursorForPosition(event->pos()));
+    menu->exec(event->globalPos());
+}
+
 /// Plain text alone: other programs would otherwise take over the font of the field.
 QMimeData* TextField::createMimeDataFromSelection() const {
     auto* const selection = new QMimeData;
@@ -93,6 +104,20 @@ void TextField::keyPressEvent(QKeyEvent* event) {
         QPlainTextEdit::keyPressEvent(event);
 }
 
+void TextField::paintEvent(QPaintEvent* event) {
+    QPlainTextEdit::paintEvent(event);
+    if (!marks_.isBound())
+        return;
+    QTextBlock block = firstVisibleBlock();
+    QPointF place = contentOffset();
+    while (block.isValid() && place.y() < viewport()->height()) {
+        const QRectF rect = blockBoundingRect(block).translated(place);
+        paintMarks(block, rect);
+        place = rect.bottomLeft();
+        block = block.next();
+    }
+}
+
 qsizetype TextField::staying() const {
     // The last character of a document is a line end that is none of the text.
     return document()->characterCount() - 1 - textCursor().selectedText().size();
@@ -119,6 +144,44 @@ void TextField::textTyped() {
     const QString now = text();
     wrapFor(now);
     Q_EMIT edited(now);
+}
+
+void TextField::offerWords(QMenu& menu, const QTextCursor& place) {
+    const QString line = place.block().text();
+    const auto word = marks_.wordAt(line, place.positionInBlock());
+    if (!word)
+        return;
+    QTextCursor cursor = place;
+    cursor.setPosition(place.block().position() + static_cast<int>(word->start));
+    cursor.setPosition(cursor.position() + static_cast<int>(word->length), QTextCursor::KeepAnchor);
+    const auto replace = [this, cursor](const QString& suggestion) {
+        setTextCursor(cursor);
+        textCursor().insertText(limit_.fitting(suggestion, staying()));
+    };
+    marks_.offer(menu, line.sliced(word->start, word->length),
+                 isReadOnly() ? std::function<void(QString)>() : replace);
+}
+
+/// Only of the lines that are seen: a block may be a megabyte.
+void TextField::paintMarks(const QTextBlock& block, const QRectF& place) {
+    const QTextLayout& layout = *block.layout();
+    const QString text = block.text();
+    QPainter painter(viewport());
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine line = layout.lineAt(i);
+        const QRectF rect = line.rect().translated(place.topLeft());
+        if (rect.bottom() < 0 || rect.top() > viewport()->height())
+            continue;
+        const int start = line.textStart();
+        const int end = start + line.textLength();
+        for (const TextRange& word : marks_.words(text, start, end)) {
+            const auto x = [&](qsizetype at) {
+                return place.left() + line.cursorToX(std::clamp(static_cast<int>(at), start, end));
+            };
+            const auto [left, right] = std::minmax({x(word.start), x(word.end())});
+            SpellMarks::paintWave(painter, left, right, rect.top() + line.ascent());
+        }
+    }
 }
 
 } // namespace quillford

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "controls/SpellMarks.h"
 #include "controls/TypingLimit.h"
 
 #include <QPlainTextEdit>
+#include <QTextBlock>
 
 namespace quillford {
 
-/// A box of several lines of plain text, with a line feed between two lines. Tab leaves it.
+/// A box of several lines of plain text, with a line feed between two lines. Tab leaves it. Unknown
+/// words have a wavy line while the spell checker is bound to the field.
 ///
 /// A text with a run of more than 2,000 characters without a blank wraps at any character from then
 /// on: the toolkit's search for a better place takes half a minute in a run of a megabyte.
@@ -41,17 +44,22 @@ Q_SIGNALS:
     void edited(const QString& text);
 
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     [[nodiscard]] qsizetype staying() const;
     void typeEnter();
     void wrapFor(QStringView text);
     void textTyped();
+    void offerWords(QMenu& menu, const QTextCursor& place);
+    void paintMarks(const QTextBlock& block, const QRectF& place);
 
+    SpellMarks marks_{*this, *viewport()};
     TypingLimit limit_;
     bool enterSwallowed_ = false;
     bool tinted_ = false;
