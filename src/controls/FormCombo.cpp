@@ -30,10 +30,10 @@ void FormCombo::setTint(bool on) {
 
 void FormCombo::setTyping(bool on) {
     setEditable(on);
-    setCompleter(nullptr);
     QLineEdit* field = lineEdit();
     if (!field)
         return;
+    setCompleter(nullptr);
     // The toolkit's own answers to Enter and to a lost focus look for a row that differs in case
     // only, and put it in the place of what was typed.
     disconnect(field, &QLineEdit::returnPressed, this, nullptr);
