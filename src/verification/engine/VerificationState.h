@@ -1,5 +1,6 @@
 #pragma once
 
+#include "draft/commands/ExportFormat.h"
 #include "verification/engine/MissingList.h"
 
 #include <QString>
@@ -21,9 +22,6 @@ struct MissingLists {
 
 /// What the user asked of a verification: `Cancel` before it was started, `Exit` while it ran.
 enum class StopRequest { None, Cancel, Exit };
-
-/// The export that waits behind a verification.
-enum class ExportFormat { None, Word, Html };
 
 /// The shared state of verification runs, kept for the life of the program. That a project has
 /// passed is kept with the project, in `ProjectState`.
