@@ -10,9 +10,8 @@ public:
     [[nodiscard]] QString name() const override { return QStringLiteral("export"); }
 
     [[nodiscard]] QString usage() const override {
-        return QStringLiteral(
-            "PROJECT [--html FILE] [--word FILE] [--pdf FILE] [--index FILE] [--report FILE]\n"
-            "[--incomplete]");
+        return QStringLiteral("PROJECT [--html FILE] [--word FILE] [--pdf FILE] [--index FILE]\n"
+                              "[--report FILE] [--incomplete]");
     }
 
     [[nodiscard]] QString description() const override {

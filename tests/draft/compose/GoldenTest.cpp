@@ -1,10 +1,13 @@
 #include "core/rules/FigureSize.h"
 #include "draft/compose/HtmlComposer.h"
 #include "draft/compose/IndexComposer.h"
+#include "draft/compose/WordComposer.h"
+#include "draft/compose/WordTemplateText.h"
 #include "persistence/project/ProjectReader.h"
 #include "platform/linux/QtPictureReader.h"
 #include "support/FakeFolders.h"
 #include "support/FakePrompts.h"
+#include "support/FakeWordProcessor.h"
 #include "support/Files.h"
 #include "support/PrintQt.h"
 
@@ -16,6 +19,9 @@ using namespace Qt::Literals::StringLiterals;
 // Every folder of tests/golden is a case: a project, and the pages that are composed from it. The
 // project is project.json, or the file that project.path names from the root of the source tree. In
 // the pages @GOLDEN@ stands for that root. scripts/update_golden.sh writes the pages anew.
+//
+// Of the Word document it is the text, as a word processor over plain text leaves it: the header,
+// then a line for each paragraph, in which a picture is one object replacement character.
 
 namespace {
 
@@ -58,6 +64,15 @@ public:
         return contentOf(path);
     }
 
+    QByteArray word() {
+        FakeWordProcessor word;
+        word.templateText = wordTemplateText();
+        word.showsAnyPicture = true;
+        WordComposer composer(project_.fields, folders_, prompts_, word);
+        EXPECT_TRUE(composer.ExportToWord(u"Printer"_s));
+        return (word.header + u'\n' + word.text.replace(u'\r', u'\n')).toUtf8();
+    }
+
 private:
     QTemporaryDir folder_;
     FakeFolders folders_;
@@ -97,6 +112,7 @@ TEST(Golden, every_case_is_composed_as_expected) {
         Pages pages(projectOf(folder));
         checkPage(folder + u"/expected.htm"_s, pages.draft());
         checkPage(folder + u"/expected-index.htm"_s, pages.index());
+        checkPage(folder + u"/expected-word.txt"_s, pages.word());
     }
     if (isUpdate())
         GTEST_SKIP() << "the expected pages were written anew, nothing was compared";
