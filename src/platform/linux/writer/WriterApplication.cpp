@@ -168,6 +168,8 @@ void WriterApplication::deleteBackward() {
 }
 
 void WriterApplication::addPicture(const QString& path) {
+    if (path.isEmpty())
+        throw Error(UnoCalls::Refused, QStringLiteral("a figure has no picture"));
     const QString file = copyOf(path);
     call_([&] {
         open().selection.insert(makePicture(open().document, connection_->context(), file, path));
