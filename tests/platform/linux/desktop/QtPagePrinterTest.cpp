@@ -7,10 +7,13 @@
 #include "support/ScopedEnvironment.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QLineEdit>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -104,6 +107,21 @@ TEST_F(QtPagePrinterTest, prints_the_pages_that_the_user_chooses) {
     });
     print();
     EXPECT_EQ(printed, (QList<int>{2, 3}));
+}
+
+TEST_F(QtPagePrinterTest, without_a_printer_the_dialog_prints_into_a_file) {
+    inDialog([this](QPrintDialog& dialog) {
+        auto* name = dialog.findChild<QLineEdit*>(u"filename"_s);
+        ASSERT_NE(name, nullptr);
+        name->setText(pdf());
+        auto* buttons = dialog.findChild<QDialogButtonBox*>();
+        ASSERT_NE(buttons, nullptr);
+        buttons->button(QDialogButtonBox::Ok)->click();
+    });
+    print();
+    EXPECT_EQ(printed, (QList<int>{1, 2, 3, 4, 5}));
+    EXPECT_EQ(Pages::layout.paintRect(QPageLayout::Point), QRectF(0, 0, 612, 792));
+    EXPECT_TRUE(contentOf(pdf()).contains("/MediaBox [0 0 612"));
 }
 
 TEST_F(QtPagePrinterTest, a_cancelled_print_has_ended_too) {
