@@ -1,33 +1,13 @@
 #pragma once
 
 #include "base/Error.h"
+#include "platform/linux/writer/UnoValues.h"
 #include "platform/linux/writer/Watchdog.h"
-
-#include <QString>
 
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/uno/Exception.hpp>
-#include <com/sun/star/uno/Sequence.hxx>
-#include <initializer_list>
-#include <rtl/ustring.hxx>
 
 namespace quillford {
-
-namespace css = com::sun::star;
-
-[[nodiscard]] inline rtl::OUString toOUString(const QString& text) {
-    return rtl::OUString(reinterpret_cast<const sal_Unicode*>(text.utf16()),
-                         static_cast<sal_Int32>(text.size()));
-}
-
-[[nodiscard]] inline QString toQString(const rtl::OUString& text) {
-    return QString(reinterpret_cast<const QChar*>(text.getStr()), text.getLength());
-}
-
-template <typename Value>
-[[nodiscard]] css::uno::Sequence<Value> sequenceOf(std::initializer_list<Value> values) {
-    return css::uno::Sequence<Value>(values.begin(), static_cast<sal_Int32>(values.size()));
-}
 
 /// The way of every call into LibreOffice. It is watched, and what it raises becomes an `Error`:
 /// an exception of LibreOffice's that nobody catches would end the program, since it is none of

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "platform/linux/writer/UnoValues.h"
 
 #include <com/sun/star/datatransfer/XTransferable.hpp>
 #include <com/sun/star/text/XText.hpp>
@@ -12,8 +12,6 @@
 #include <com/sun/star/uno/Any.hxx>
 
 namespace quillford {
-
-namespace css = com::sun::star;
 
 /// The selection in the body of a document: a cursor of the document's own. Positions are ranges
 /// and never numbers, which pictures and fields would upset. Its calls raise what LibreOffice
