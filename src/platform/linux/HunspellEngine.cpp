@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStringEncoder>
 
 #include <hunspell/hunspell.hxx>
 #include <string>
@@ -21,6 +22,15 @@ constexpr int MostSuggestions = 6;
 bool isListOfWords(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) && numberIn(QString::fromLatin1(file.readLine(16))) > 0;
+}
+
+/// In one allocation at most, since the words of a whole field come one by one.
+std::string utf8Of(QStringView word) {
+    QStringEncoder encoder(QStringEncoder::Utf8);
+    std::string bytes(static_cast<std::size_t>(encoder.requiredSpace(word.size())), '\0');
+    const char* const end = encoder.appendToBuffer(bytes.data(), word);
+    bytes.resize(static_cast<std::size_t>(end - bytes.data()));
+    return bytes;
 }
 
 /// Null when either file is missing or of another kind.
@@ -53,14 +63,14 @@ void HunspellEngine::loadDictionary(const QString& path) {
 }
 
 bool HunspellEngine::isKnown(const QString& word) const {
-    return !dictionary_ || dictionary_->spell(word.toStdString());
+    return !dictionary_ || dictionary_->spell(utf8Of(word));
 }
 
 QStringList HunspellEngine::suggestions(const QString& word) const {
     QStringList words;
     if (!dictionary_)
         return words;
-    for (const std::string& suggestion : dictionary_->suggest(word.toStdString()))
+    for (const std::string& suggestion : dictionary_->suggest(utf8Of(word)))
         if (words.size() < MostSuggestions)
             words.append(QString::fromStdString(suggestion));
     return words;
@@ -81,7 +91,7 @@ void HunspellEngine::addToUserDictionary(const QString& word) {
 void HunspellEngine::ignore(const QString& word) {
     wordsOfThisRun_.append(word);
     if (dictionary_)
-        dictionary_->add(word.toStdString());
+        dictionary_->add(utf8Of(word));
 }
 
 void HunspellEngine::readUserWords() {
@@ -95,7 +105,7 @@ void HunspellEngine::readUserWords() {
         words = wordsOfThisRun_;
     }
     for (const QString& word : words)
-        dictionary_->add(word.toStdString());
+        dictionary_->add(utf8Of(word));
 }
 
 } // namespace quillford
