@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "core/rules/ProjectNames.h"
 #include "editors/pages/PageIntroduction.h"
 #include "editors/pages/PageOperation.h"
 #include "shell/KeyCommands.h"
@@ -15,6 +16,8 @@ MainWindow::MainWindow(Project& project, mdlSystem& system, Settings& settings,
       tmrAutoSave_(new QTimer(&form_)),
       autoSaveSwitch_(*tmrAutoSave_),
       bound_(project.fields),
+      spelling_(ports.spelling, system.appFolder + QStringLiteral("Dictionary/SpellUS.lex"),
+                [&project] { return projectNames(project.fields); }),
       pages_(form_, form_.help(), bound_),
       projectScreen_(form_, form_.title(), form_.welcome(), [] {}),
       guidance_(project.fields, project.state, bound_, [](const PanelScroll&) {}),
@@ -47,6 +50,7 @@ MainWindow::~MainWindow() {
 
 void MainWindow::joinFields() {
     project_.fields.setObserver(&steps_);
+    bound_.setHooks({[this](QWidget& control) { spelling_.SpellAttach(control); }, {}});
     QObject::connect(&bound_, &BoundFields::chosen, &form_,
                      [this](const FieldPlace& place) { steps_.clicked(place); });
     QObject::connect(&bound_, &BoundFields::focusLeft, &form_,

@@ -2,6 +2,7 @@
 
 #include "app/Interim.h"
 #include "app/ProjectFiles.h"
+#include "controls/SpellBinder.h"
 #include "editors/binding/FieldGuidance.h"
 #include "editors/columns/CountTimers.h"
 #include "editors/rules/FieldChangeSteps.h"
@@ -47,6 +48,7 @@ private:
     QTimer* tmrAutoSave_;          // owned by the form
     AutoSaveTimer autoSaveSwitch_;
     BoundFields bound_;
+    SpellBinder spelling_;
     PanelStack pages_;
     FormScreen projectScreen_;
     FieldGuidance guidance_;
