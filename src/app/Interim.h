@@ -33,11 +33,4 @@ struct InterimColumns final : EditorColumns {
     ProjectFields& f_;
 };
 
-struct InterimIndex final : ElementIndexView {
-    void RebuildElementIndex() override {}
-
-    void clearIndex() override {}
-
-    void enableIndex(bool) override {}
-};
 } // namespace quillford

@@ -1,12 +1,28 @@
 #include "app/MainWindow.h"
 
+#include "controls/ClickLabel.h"
 #include "core/rules/ProjectNames.h"
 #include "editors/pages/PageIntroduction.h"
 #include "editors/pages/PageOperation.h"
+#include "shell/HelpPane.h"
 #include "shell/KeyCommands.h"
 #include "shell/MainMenus.h"
 
 namespace quillford {
+
+namespace {
+
+ElementIndexPanel* makeIndex(frmMain1& form, const ProjectFields& fields, const Ports& ports) {
+    const auto part = [&form](const QString& name) -> QWidget& {
+        return *form.findChild<QWidget*>(name);
+    };
+    return new ElementIndexPanel({form.index(), part(QStringLiteral("picIndexPrintFrm")),
+                                  *form.findChild<QScrollBar*>(QStringLiteral("VScroll1")),
+                                  part(QStringLiteral("imgPrint"))},
+                                 fields, ports.measure, ports.measuredFont);
+}
+
+} // namespace
 
 MainWindow::MainWindow(Project& project, mdlSystem& system, Settings& settings,
                        UserPrompts& prompts, const Ports& ports)
@@ -19,33 +35,50 @@ MainWindow::MainWindow(Project& project, mdlSystem& system, Settings& settings,
       spelling_(ports.spelling, system.appFolder + QStringLiteral("Dictionary/SpellUS.lex"),
                 [&project] { return projectNames(project.fields); }),
       pages_(form_, form_.help(), bound_),
-      projectScreen_(form_, form_.title(), form_.welcome(), [] {}),
+      projectScreen_(form_, form_.title(), form_.welcome(),
+                     [this] { draft_.page().showBlankPreview(); }),
       guidance_(project.fields, project.state, bound_, [](const PanelScroll&) {}),
       columns_(project.fields),
+      index_(makeIndex(form_, project.fields, ports)),
       screen_{form_.looks(), pages_,        columns_,       guidance_,
-              index_,        form_.title(), projectScreen_, autoSaveSwitch_},
+              *index_,       form_.title(), projectScreen_, autoSaveSwitch_},
       rules_(project.fields, project.state, form_.looks(), prompts),
       messages_(system, settings, prompts),
       entry_(project.fields, messages_, focusOrder_, screen_),
       navigator_(project.state, system, rules_, messages_, entry_, screen_),
       mirror_(project.fields, project.state, prompts, bound_, focusOrder_),
-      steps_(project.fields, project.state, mirror_, bound_, form_.title(), index_, ports.measure),
+      steps_(project.fields, project.state, mirror_, bound_, form_.title(), *index_, ports.measure),
       wrap_(project.fields, pages_, focusOrder_),
       timers_(project.fields, bound_, pages_, columns_),
       files_(project, system, settings, prompts,
-             {rules_, navigator_, screen_, form_.title(), *tmrAutoSave_}, ports) {
+             {rules_, navigator_, screen_, form_.title(), *tmrAutoSave_}, ports),
+      draft_(project, system, settings, prompts,
+             {form_, form_.panel(SectionRules::FinalDraftTab), rules_, navigator_, screen_}, files_,
+             ports) {
+    pages_.setPage(SectionRules::FinalDraftTab, draft_.page());
     new PageIntroduction(form_.panel(0), bound_);
     new PageOperation(form_.panel(7), bound_);
+    numberSingleFields();
     joinFields();
     joinNavigation();
     joinMenus();
+    joinDraft();
     joinKeys();
+    joinWheel();
     joinRecentProjects();
     form_.menus().showWords();
 }
 
 MainWindow::~MainWindow() {
     project_.fields.setObserver(nullptr);
+}
+
+/// The designed order of the Tab key, until a section that is entered numbers its own.
+void MainWindow::numberSingleFields() {
+    int number = 0;
+    for (const FieldRow& row : fieldTable())
+        if (row.group == FieldGroup::Single)
+            focusOrder_.setTabIndex(row.name.toString(), number++);
 }
 
 void MainWindow::joinFields() {
@@ -93,6 +126,41 @@ void MainWindow::joinMenus() {
                        rules_.isComplete(SectionRules::FinalDraftTab));
         fileEntries_->enable(fileMenu_);
     });
+}
+
+void MainWindow::joinDraft() {
+    DraftCommands& commands = draft_.commands();
+    PrintCommands& printing = draft_.printing();
+    QObject::connect(&form_.bar(), &StepBar::imgCreateToFile_Click, &form_,
+                     [&commands](int index) { commands.imgCreateToFile(index); });
+    QObject::connect(fileEntries_, &FileMenuEntries::mnuFileExportToHTML_Click, &form_,
+                     [&commands] { commands.mnuFileExportToHTML(); });
+    QObject::connect(fileEntries_, &FileMenuEntries::mnuFileExportToWord_Click, &form_,
+                     [&commands] { commands.mnuFileExportToWord(); });
+    QObject::connect(&form_.bar(), &StepBar::imgPrintFile_Click, &form_,
+                     [&printing] { printing.imgPrintFile(); });
+    QObject::connect(fileEntries_, &FileMenuEntries::mnuFilePrint_Click, &form_,
+                     [&printing] { printing.mnuFilePrint(); });
+    QObject::connect(form_.findChild<ClickLabel*>(QStringLiteral("imgPrint")), &ClickLabel::clicked,
+                     &form_, [&printing] { printing.imgPrint(); });
+    QObject::connect(&form_.help(), &HelpPane::imgHelpPrint_Click, &form_,
+                     [this, &printing] { printing.imgHelpPrint(form_.help().view().printJob()); });
+}
+
+void MainWindow::joinWheel() {
+    const auto indexBar = [this]() -> QScrollBar* {
+        return index_->indexHasFocus() ? form_.findChild<QScrollBar*>(QStringLiteral("VScroll1"))
+                                       : nullptr;
+    };
+    const auto sectionBar = [this]() -> QScrollBar* {
+        constexpr int FirstWithBar = 1;
+        constexpr int LastWithBar = 6;
+        for (int tab = FirstWithBar; tab <= LastWithBar; ++tab)
+            if (pages_.isPanelEnabled(tab))
+                return form_.findChild<QScrollBar*>(controlName(u"vscroll", tab - 1));
+        return nullptr;
+    };
+    new WheelRouter(form_, form_.help().pane(), {indexBar, sectionBar});
 }
 
 void MainWindow::joinKeys() {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "app/DraftParts.h"
 #include "app/Interim.h"
 #include "app/ProjectFiles.h"
 #include "controls/SpellBinder.h"
 #include "editors/binding/FieldGuidance.h"
 #include "editors/columns/CountTimers.h"
+#include "editors/index/ElementIndexPanel.h"
 #include "editors/rules/FieldChangeSteps.h"
 #include "editors/rules/TabWrap.h"
 #include "persistence/session/AutoSaveTimer.h"
@@ -12,6 +14,7 @@
 #include "shell/FormLooks.h"
 #include "shell/FormScreen.h"
 #include "shell/PanelStack.h"
+#include "shell/WheelRouter.h"
 #include "shell/frmMain1.h"
 
 namespace quillford {
@@ -37,6 +40,9 @@ private:
     void joinFields();
     void joinNavigation();
     void joinMenus();
+    void joinDraft();
+    void joinWheel();
+    void numberSingleFields();
     void joinKeys();
     void joinRecentProjects();
 
@@ -53,7 +59,7 @@ private:
     FormScreen projectScreen_;
     FieldGuidance guidance_;
     InterimColumns columns_;
-    InterimIndex index_;
+    ElementIndexPanel* index_; // owned by the form
     WizardScreen screen_;
     SectionRules rules_;
     SectionMessages messages_;
@@ -64,6 +70,7 @@ private:
     TabWrap wrap_;
     CountTimers timers_;
     ProjectFiles files_;
+    DraftParts draft_;
 };
 
 } // namespace quillford

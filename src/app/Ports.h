@@ -1,10 +1,16 @@
 #pragma once
 
 #include "platform/Clock.h"
+#include "platform/DocumentOpener.h"
 #include "platform/Folders.h"
+#include "platform/PagePrinter.h"
+#include "platform/PictureLoader.h"
 #include "platform/PictureReader.h"
 #include "platform/SpellEngine.h"
 #include "platform/TextMeasure.h"
+#include "platform/WordProcessor.h"
+
+#include <QFont>
 
 namespace quillford {
 
@@ -12,9 +18,14 @@ namespace quillford {
 struct Ports {
     Folders& folders;
     Clock& clock;
-    PictureReader& pictures;
+    PictureReader& pictureSizes;
+    PictureLoader& pictures;
     TextMeasure& measure;
+    QFont measuredFont; ///< the font that `measure` measures, in its regular weight
     SpellEngine& spelling;
+    WordProcessor& word;
+    PagePrinter& printer;
+    DocumentOpener& opener;
 };
 
 } // namespace quillford

@@ -1,5 +1,6 @@
 #include "app/Program.h"
 
+#include "draft/pages/PagedDocument.h"
 #include "shell/dialogs/frmSplash.h"
 
 #include <QApplication>
@@ -18,6 +19,9 @@ Program::Program()
     : store_(configurationFile(folders_, QStringLiteral("settings"))),
       settings_(store_),
       spelling_(configurationFile(folders_, QStringLiteral("words.txt"))),
+      word_(folders_),
+      printer_(
+          [this](const PrintJob& job) { return std::make_unique<PagedDocument>(job, pictures_); }),
       fileTypes_(folders_),
       association_(settings_, folders_, fileTypes_),
       prompts_(project_.state) {}
@@ -31,14 +35,16 @@ int Program::run(const QStringList& arguments) {
 bool Program::start(const QStringList& arguments) {
     frmSplash(clock_, system_).showModally();
     ProgramStart program(system_, settings_, folders_, association_, prompts_, *this);
-    return program.startProgram(arguments, false) == ProgramStart::Outcome::Runs;
+    return program.startProgram(arguments, word_.isInstalled()) == ProgramStart::Outcome::Runs;
 }
 
 void Program::loadForm() {
-    spelling_.loadDictionary(system_.appFolder + QStringLiteral("Dictionary/SpellUS.lex"));
-    window_ = std::make_unique<MainWindow>(project_, system_, settings_, prompts_,
-                                           Ports{folders_, clock_, pictures_, measure_, spelling_});
+    const Ports ports{
+        folders_,  clock_, pictures_, pictures_, measure_, QtTextMeasure::font(TextWeight::Regular),
+        spelling_, word_,  printer_,  opener_};
+    window_ = std::make_unique<MainWindow>(project_, system_, settings_, prompts_, ports);
     prompts_.setParent(&window_->form());
+    printer_.setParent(&window_->form());
 }
 
 } // namespace quillford

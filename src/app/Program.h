@@ -4,13 +4,16 @@
 #include "core/commands/ProgramStart.h"
 #include "core/settings/FileAssociation.h"
 #include "core/settings/Settings.h"
+#include "platform/linux/DesktopOpener.h"
 #include "platform/linux/FileSettingsStore.h"
 #include "platform/linux/HunspellEngine.h"
+#include "platform/linux/LibreOffice.h"
 #include "platform/linux/LinuxFolders.h"
 #include "platform/linux/QtClock.h"
 #include "platform/linux/QtPictureReader.h"
 #include "platform/linux/QtTextMeasure.h"
 #include "platform/linux/XdgFileTypes.h"
+#include "platform/linux/desktop/QtPagePrinter.h"
 #include "shell/dialogs/QtUserPrompts.h"
 
 #include <memory>
@@ -56,6 +59,9 @@ private:
     QtPictureReader pictures_;
     QtTextMeasure measure_;
     HunspellEngine spelling_;
+    LibreOffice word_;
+    QtPagePrinter printer_;
+    DesktopOpener opener_;
     XdgFileTypes fileTypes_;
     FileAssociation association_;
     QtUserPrompts prompts_;

@@ -9,7 +9,7 @@ ProjectFiles::ProjectFiles(Project& project, mdlSystem& system, Settings& settin
       names_(project.fields, folders_),
       recent_(settings, project),
       title_(wizard.screen.project),
-      copies_(project.fields, ports.folders, ports.pictures),
+      copies_(project.fields, ports.folders, ports.pictureSizes),
       saver_(project, folders_, dialog_, recent_, shadow_, title_, wizard.saveState, prompts),
       opener_(project, system, wizard.rules, wizard.navigator, wizard.screen,
               {saver_, names_, folders_, recent_, copies_, title_, wizard.saveState, prompts},
