@@ -38,8 +38,10 @@ LineField::LineField(QWidget* parent) : QLineEdit(parent) {
 void LineField::showText(const QString& text) {
     if (text == this->text())
         return;
+    // Where the user is typing, the text written anew is his own without the blanks at its ends.
+    const auto behindCursor = this->text().size() - cursorPosition();
     setText(text);
-    setCursorPosition(0);
+    setCursorPosition(hasFocus() ? static_cast<int>(std::max(text.size() - behindCursor, 0LL)) : 0);
 }
 
 void LineField::setLimit(int limit) {
