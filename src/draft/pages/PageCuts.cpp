@@ -8,10 +8,11 @@ namespace {
 
 /// Bands that share a height cannot be cut apart: the cells of one row of a table, for instance.
 QList<Band> separated(const QList<Band>& bands) {
-    constexpr double Touch = 0.01;
+    constexpr double Touch = 1; // lines below each other overlap by no more, when rounded
     QList<Band> separate;
     for (Band band : bands) {
-        while (!separate.isEmpty() && band.top < separate.last().bottom - Touch) {
+        while (!band.beginsPage && !separate.isEmpty() &&
+               band.top < separate.last().bottom - Touch) {
             const Band beside = separate.takeLast();
             band.top = std::min(band.top, beside.top);
             band.bottom = std::max(band.bottom, beside.bottom);

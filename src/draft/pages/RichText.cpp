@@ -100,9 +100,16 @@ void frameNotice(QString& html) {
         match.capturedStart(), match.capturedLength(),
         QStringLiteral("<p class=\"space\">&nbsp;</p>"
                        "<table width=\"100%\" border=\"3\" cellspacing=\"0\" cellpadding=\"12\" "
-                       "style=\"margin-left:-3px; margin-right:-3px; border-style:solid; border-color:black; border-collapse:collapse\">"
+                       "style=\"margin-left:-3px; margin-right:-3px; border-style:solid; "
+                       "border-color:black; border-collapse:collapse\">"
                        "<tr><td class=\"notice\">") +
             match.captured(1) + QStringLiteral("</td></tr></table><p class=\"space\">&nbsp;</p>"));
+}
+
+/// A paragraph without text has no height, but the toolkit gives its looks to the next one.
+void dropEmptyParagraphs(QString& html) {
+    static const QRegularExpression empty(QStringLiteral("<p(?: [^>]*)?>\\s*</p>"));
+    html.remove(empty);
 }
 
 /// What stands between two paragraphs would become a blank at the end of the first.
@@ -160,6 +167,7 @@ RichText richTextOf(const QString& page) {
     splitObjects(text.html);
     frameNotice(text.html);
     keepEmptyLines(text.html);
+    dropEmptyParagraphs(text.html);
     cutBetweenParagraphs(text.html);
     alignParagraphs(text.html, kind);
     return text;

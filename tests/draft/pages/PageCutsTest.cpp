@@ -91,6 +91,16 @@ TEST(PageCutsTest, bands_beside_each_other_stay_together) {
     EXPECT_EQ(cutPages(bands, 20), (QList<PageCut>{{0, 10}, {10, 30}, {30, 40}}));
 }
 
+TEST(PageCutsTest, a_band_that_begins_a_page_is_joined_to_none) {
+    const QList<Band> bands{{0, 20, 1}, {15, 25, 2, true}};
+    EXPECT_EQ(cutPages(bands, 100), (QList<PageCut>{{0, 20}, {15, 25}}));
+}
+
+TEST(PageCutsTest, lines_that_touch_by_rounding_are_cut_apart) {
+    const QList<Band> bands{{0, 10.4, 1}, {10, 20.4, 2}, {20, 30, 3}};
+    EXPECT_EQ(cutPages(bands, 20.5), (QList<PageCut>{{0, 20.4}, {20, 30}}));
+}
+
 TEST(PageCutsTest, a_band_higher_than_a_page_goes_on_over_several) {
     const QList<Band> bands{{0, 10, 1}, {10, 60, 2}, {60, 70, 3}};
     EXPECT_EQ(cutPages(bands, 20),

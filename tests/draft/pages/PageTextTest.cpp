@@ -166,3 +166,20 @@ TEST_F(PageTextTest, a_figure_is_scaled_smoothly_for_a_screen_and_kept_whole_for
     show(preview(), Medium::Paper);
     EXPECT_EQ(shown().size(), QSize(400, 400));
 }
+
+TEST_F(PageTextTest, the_index_begins_a_page_where_there_are_no_figures) {
+    fields.cboFiguresNum.setText(u"0"_s);
+    show(preview());
+    EXPECT_TRUE(beginsPage(block(u"Index of Elements"_s)));
+    EXPECT_EQ(block(u"Index of Elements"_s).blockFormat().alignment(), Qt::AlignHCenter);
+}
+
+TEST_F(PageTextTest, an_empty_field_leaves_no_paragraph_and_changes_none) {
+    fields.txtElementDes(0).setText(QString());
+    fields.txtMainElementNameDetail(0).setText(u"  "_s);
+    show(preview());
+    const QTextBlock heading = block(u"B."_s);
+    EXPECT_EQ(heading.next().text(), QString(QChar::Nbsp));
+    EXPECT_EQ(heading.next().next().text(), QString(QChar::Nbsp));
+    EXPECT_EQ(heading.next().blockFormat().textIndent(), 48);
+}

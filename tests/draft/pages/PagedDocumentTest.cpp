@@ -51,6 +51,11 @@ TEST_F(PagedDocumentTest, the_final_draft_has_the_pages_that_its_text_needs) {
     EXPECT_EQ(pages(preview()).pageCount(), 9);
 }
 
+TEST_F(PagedDocumentTest, without_figures_the_index_stands_on_a_page_of_its_own) {
+    setCount(fields, FieldGroup::Figures, 0);
+    EXPECT_EQ(pages(preview()).pageCount(), 9);
+}
+
 TEST_F(PagedDocumentTest, an_empty_page_is_one_page) {
     PagedDocument document = pages(u""_s);
     EXPECT_EQ(document.pageCount(), 1);
