@@ -2,7 +2,6 @@
 
 #include "platform/linux/writer/UnoCalls.h"
 
-#include <algorithm>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XEnumeration.hpp>
 #include <com/sun/star/container/XEnumerationAccess.hpp>
@@ -11,8 +10,6 @@
 #include <com/sun/star/text/XParagraphCursor.hpp>
 #include <com/sun/star/text/XTextRangeCompare.hpp>
 #include <com/sun/star/text/XTextViewCursorSupplier.hpp>
-#include <com/sun/star/util/XSearchDescriptor.hpp>
-#include <com/sun/star/util/XSearchable.hpp>
 
 namespace quillford {
 
@@ -43,30 +40,38 @@ QString asWriterText(QString text) {
 WriterSelection::WriterSelection(const Reference<css::text::XTextDocument>& document)
     : document_(document),
       body_(document->getText()),
-      cursor_(body_->createTextCursorByRange(body_->getStart())) {}
+      cursor_(body_->createTextCursorByRange(body_->getStart())),
+      searchable_(document, UNO_QUERY_THROW),
+      search_(searchable_->createSearchDescriptor()) {}
 
 // ---- searching
 
+/// A search begins behind what it is given, so that a find that is still selected is passed over.
 /// Headers and footers are searched behind the body, but hold nothing that is looked for.
 bool WriterSelection::find(const QString& text) {
-    const Reference<css::util::XSearchable> searchable(document_, UNO_QUERY_THROW);
-    const Reference<css::util::XSearchDescriptor> what = searchable->createSearchDescriptor();
-    what->setSearchString(toOUString(text));
-    Range found(searchable->findNext(isSelected(text) ? end() : start(), what), UNO_QUERY);
-    if (!found.is() || !isInBody(found))
-        found.set(searchable->findFirst(what), UNO_QUERY);
-    if (!found.is() || !isInBody(found))
+    const bool isNextOfFind = text.compare(found_, Qt::CaseInsensitive) == 0;
+    search_->setSearchString(toOUString(text));
+    const Range from = isNextOfFind ? Range(cursor_.get()) : start();
+    const bool isFound =
+        select(searchable_->findNext(from, search_)) || select(searchable_->findFirst(search_));
+    if (isFound)
+        found_ = text;
+    return isFound;
+}
+
+/// Selects a find. False when there is none in the body.
+bool WriterSelection::select(const Reference<css::uno::XInterface>& find) {
+    const Range range(find, UNO_QUERY);
+    if (!range.is())
         return false;
-    cursor_->gotoRange(found, false);
+    try {
+        cursor_->gotoRange(range, false);
+    } catch (const css::lang::DisposedException&) {
+        throw;
+    } catch (const css::uno::RuntimeException&) {
+        return false; // it stands in another text than the cursor
+    }
     return true;
-}
-
-bool WriterSelection::isInBody(const Range& range) const {
-    return range->getText() == body_;
-}
-
-bool WriterSelection::isSelected(const QString& text) const {
-    return cursor_->getString().equalsIgnoreAsciiCase(toOUString(text));
 }
 
 // ---- places
@@ -80,6 +85,7 @@ WriterSelection::Range WriterSelection::end() const {
 }
 
 void WriterSelection::select(const Range& start, const Range& end) {
+    found_.clear();
     cursor_->gotoRange(start, false);
     cursor_->gotoRange(end, true);
 }
@@ -90,6 +96,7 @@ bool WriterSelection::isSame(const Range& one, const Range& other) const {
 }
 
 void WriterSelection::moveLeft() {
+    found_.clear();
     if (cursor_->isCollapsed())
         cursor_->goLeft(1, false);
     else
@@ -97,6 +104,7 @@ void WriterSelection::moveLeft() {
 }
 
 void WriterSelection::moveRight() {
+    found_.clear();
     if (cursor_->isCollapsed())
         cursor_->goRight(1, false);
     else
@@ -111,30 +119,33 @@ QString WriterSelection::text() const {
 
 void WriterSelection::setText(const QString& text) {
     const QString written = asWriterText(text);
-    if (!cursor_->isCollapsed() && !written.isEmpty())
+    if (!written.isEmpty() && !cursor_->isCollapsed())
         return replaceText(written);
+    found_.clear();
     cursor_->setString(toOUString(written));
     cursor_->collapseToEnd();
 }
 
-/// A text that is set takes the format of what stands before it. Behind the first character of what
-/// it replaces, it takes the format of that.
+/// A text takes the format of the character before it. So it is inserted behind what it replaces.
 void WriterSelection::replaceText(const QString& text) {
-    const Reference<css::text::XTextCursor> first =
-        body_->createTextCursorByRange(cursor_->getStart());
-    first->goRight(1, true);
-    const Reference<css::text::XTextCursor> rest =
-        body_->createTextCursorByRange(cursor_->getEnd());
-    rest->gotoRange(first->getEnd(), true);
-    const Reference<css::text::XTextCursor> written =
-        body_->createTextCursorByRange(first->getEnd());
+    if (found_.isEmpty())
+        deleteAllButFirst();
+    const auto oldCharacters = static_cast<sal_Int16>(found_.isEmpty() ? 1 : found_.size());
+    found_.clear();
+    const Reference<css::text::XTextCursor> old = body_->createTextCursorByRange(start());
+    cursor_->collapseToEnd();
+    body_->insertString(cursor_.get(), toOUString(text), false);
+    old->goRight(oldCharacters, true);
+    old->setString({});
+}
+
+/// Leaves the first of the characters that are selected. What is no find is not counted: a picture
+/// is a character that the text does not show.
+void WriterSelection::deleteAllButFirst() {
+    const Reference<css::text::XTextCursor> rest = body_->createTextCursorByRange(start());
+    rest->goRight(1, false);
+    rest->gotoRange(end(), true);
     rest->setString({});
-    written->gotoRange(rest->getStart(), false);
-    body_->insertString(written.get(), toOUString(text), false);
-    cursor_->gotoRange(written->getEnd(), false);
-    first->collapseToStart();
-    first->goRight(1, true);
-    first->setString({});
 }
 
 Reference<css::text::XTextViewCursor> WriterSelection::viewCursor() const {
@@ -163,6 +174,7 @@ void WriterSelection::paste() {
     const Reference<css::text::XTextCursor> first =
         body_->createTextCursorByRange(cursor_->getStart());
     const bool isFirstOfAll = !first->goLeft(1, false);
+    found_.clear();
     pasteAtCursor();
     if (!opensParagraph)
         return;
@@ -184,6 +196,7 @@ void WriterSelection::pasteAtCursor() {
 }
 
 void WriterSelection::insert(const Reference<css::text::XTextContent>& content) {
+    found_.clear();
     body_->insertTextContent(cursor_.get(), content, true);
     cursor_->gotoRange(content->getAnchor()->getStart(), false); // which is before the content
     cursor_->goRight(1, false);

@@ -10,6 +10,8 @@
 #include <com/sun/star/text/XTextRange.hpp>
 #include <com/sun/star/text/XTextViewCursor.hpp>
 #include <com/sun/star/uno/Any.hxx>
+#include <com/sun/star/util/XSearchDescriptor.hpp>
+#include <com/sun/star/util/XSearchable.hpp>
 
 namespace quillford {
 
@@ -44,18 +46,21 @@ public:
     void insert(const css::uno::Reference<css::text::XTextContent>& content);
 
 private:
-    [[nodiscard]] bool isInBody(const Range& range) const;
-    [[nodiscard]] bool isSelected(const QString& text) const;
+    bool select(const css::uno::Reference<css::uno::XInterface>& find);
     [[nodiscard]] bool isStartOfParagraph() const;
     [[nodiscard]] bool isEmptyParagraph() const;
     void removeParagraph();
     void replaceText(const QString& text);
+    void deleteAllButFirst();
     void pasteAtCursor();
     [[nodiscard]] css::uno::Reference<css::text::XTextViewCursor> viewCursor() const;
 
     css::uno::Reference<css::text::XTextDocument> document_;
     css::uno::Reference<css::text::XText> body_;
     css::uno::Reference<css::text::XTextCursor> cursor_;
+    css::uno::Reference<css::util::XSearchable> searchable_;
+    css::uno::Reference<css::util::XSearchDescriptor> search_;
+    QString found_; ///< what was found, while that is what is selected
     css::uno::Reference<css::datatransfer::XTransferable> copied_;
     css::uno::Any copiedStyle_;
     bool copyHasParagraphs_ = false;
