@@ -98,6 +98,14 @@ class ProgramTest(unittest.TestCase):
         self.assertIn(f'<img src="file:///{EASEL.parent}/figures/fig1.png" '
                       'width ="626" height ="810">', draft)
 
+    def test_pages_are_printed_without_a_display_or_a_home(self):
+        for changes in ({}, {"HOME": "/nowhere"}, {"QT_QPA_PLATFORM": "xcb", "DISPLAY": ":99"},
+                        {"QT_FONT_DPI": "144"}, {"LC_ALL": "C"}):
+            environment = {**self.environment, "Temp": str(self.home), **changes}
+            self.expect_done("export", EASEL, "--pdf", "easel.pdf", env=environment)
+            self.assertEqual((self.place / "easel.pdf").read_bytes().count(b"/Type /Page\n"), 18)
+        self.assertEqual(self.written(), ["easel.pdf"])
+
     def test_export_writes_the_same_bytes_each_time(self):
         digests = set()
         for name in ("1.htm", "2.htm"):
