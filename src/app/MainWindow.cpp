@@ -22,6 +22,25 @@ ElementIndexPanel* makeIndex(frmMain1& form, const ProjectFields& fields, const 
                                  fields, ports.measure, ports.measuredFont);
 }
 
+/// The pages of Sections 1 to 8, each on its panel, which owns it.
+SectionColumns::Pages makePages(frmMain1& form, ProjectFields& fields, BoundFields& bound,
+                                FocusOrder& order, ElementIndexView& index, UserPrompts& prompts,
+                                const Ports& ports) {
+    new PageIntroduction(form.panel(0), bound);
+    new PageOperation(form.panel(7), bound);
+    SectionColumns::Pages pages{};
+    pages.inventors = new PageInventors(form.panel(1), fields, bound, order);
+    pages.objects = new PageObjects(form.panel(2), fields, bound, order);
+    pages.figures = new PageFigures(form.panel(3), fields, bound, order,
+                                    {ports.pictureSizes, ports.pictures, prompts});
+    pages.mainElements = new PageMainElements(form.panel(4), fields, bound, order, index);
+    pages.subElements = new PageSubElements(form.panel(5), fields, bound, order);
+    pages.descriptions =
+        new PageDescriptions(form.panel(6), fields, bound, order, ports.measure,
+                             [page = pages.subElements] { page->stackSubElements(); });
+    return pages;
+}
+
 } // namespace
 
 MainWindow::MainWindow(Project& project, mdlSystem& system, Settings& settings,
@@ -37,9 +56,10 @@ MainWindow::MainWindow(Project& project, mdlSystem& system, Settings& settings,
       pages_(form_, form_.help(), bound_),
       projectScreen_(form_, form_.title(), form_.welcome(),
                      [this] { draft_.page().showBlankPreview(); }),
-      guidance_(project.fields, project.state, bound_, [](const PanelScroll&) {}),
-      columns_(project.fields),
+      guidance_(project.fields, project.state, bound_,
+                [this](const PanelScroll& scroll) { columns_.scroll(scroll); }),
       index_(makeIndex(form_, project.fields, ports)),
+      columns_(makePages(form_, project.fields, bound_, focusOrder_, *index_, prompts, ports)),
       screen_{form_.looks(), pages_,        columns_,       guidance_,
               *index_,       form_.title(), projectScreen_, autoSaveSwitch_},
       rules_(project.fields, project.state, form_.looks(), prompts),
@@ -56,8 +76,6 @@ MainWindow::MainWindow(Project& project, mdlSystem& system, Settings& settings,
              {form_, form_.panel(SectionRules::FinalDraftTab), rules_, navigator_, screen_}, files_,
              ports) {
     pages_.setPage(SectionRules::FinalDraftTab, draft_.page());
-    new PageIntroduction(form_.panel(0), bound_);
-    new PageOperation(form_.panel(7), bound_);
     numberSingleFields();
     joinFields();
     joinNavigation();
@@ -83,7 +101,8 @@ void MainWindow::numberSingleFields() {
 
 void MainWindow::joinFields() {
     project_.fields.setObserver(&steps_);
-    bound_.setHooks({[this](QWidget& control) { spelling_.SpellAttach(control); }, {}});
+    bound_.setHooks({[this](QWidget& control) { spelling_.SpellAttach(control); },
+                     [this](int figure) { columns_.showFigureSentence(figure); }});
     QObject::connect(&bound_, &BoundFields::chosen, &form_,
                      [this](const FieldPlace& place) { steps_.clicked(place); });
     QObject::connect(&bound_, &BoundFields::focusLeft, &form_,

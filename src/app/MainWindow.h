@@ -1,12 +1,12 @@
 #pragma once
 
 #include "app/DraftParts.h"
-#include "app/Interim.h"
 #include "app/ProjectFiles.h"
 #include "controls/SpellBinder.h"
 #include "editors/binding/FieldGuidance.h"
 #include "editors/columns/CountTimers.h"
 #include "editors/index/ElementIndexPanel.h"
+#include "editors/pages/SectionColumns.h"
 #include "editors/rules/FieldChangeSteps.h"
 #include "editors/rules/TabWrap.h"
 #include "persistence/session/AutoSaveTimer.h"
@@ -58,8 +58,8 @@ private:
     PanelStack pages_;
     FormScreen projectScreen_;
     FieldGuidance guidance_;
-    InterimColumns columns_;
     ElementIndexPanel* index_; // owned by the form
+    SectionColumns columns_;
     WizardScreen screen_;
     SectionRules rules_;
     SectionMessages messages_;

@@ -5,6 +5,8 @@
 #include <QApplication>
 
 int main(int argc, char** argv) {
+    // Paper and screen share one measure, whatever the desktop says of its dots.
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     const quillford::ZoomScope zoom(argc, argv);
     QApplication application(argc, argv);
     zoom.leave();

@@ -88,6 +88,8 @@ void takeAll(Album& album, const QStringList& arguments) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // Paper and screen share one measure, whatever the desktop says of its dots.
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     QApplication application(argc, argv);
     theme::apply(application);
     const QStringList arguments = QCoreApplication::arguments().sliced(1);

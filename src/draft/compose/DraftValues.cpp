@@ -71,7 +71,7 @@ QString figureHeading(int figure) {
     return QStringLiteral("FIGURE %1:").arg(figure + 1);
 }
 
-QString figureCaption(int figure) {
+QString figureAbbreviation(int figure) {
     return QStringLiteral("FIG. %1").arg(figure + 1);
 }
 

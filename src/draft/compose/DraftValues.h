@@ -44,7 +44,7 @@ namespace quillford {
 /// What opens the description of a figure, what stands below its drawing, and the sentence that
 /// tells which view it is; the sentence's mark is one itself.
 [[nodiscard]] QString figureHeading(int figure);
-[[nodiscard]] QString figureCaption(int figure);
+[[nodiscard]] QString figureAbbreviation(int figure);
 [[nodiscard]] QString figureSentence(const ProjectFields& fields, int figure);
 [[nodiscard]] QString figureSentenceItem();
 

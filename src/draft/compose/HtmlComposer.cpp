@@ -182,7 +182,7 @@ void HtmlComposer::fillDrawings(HTMLTemplate& page) const {
     if (!hasFigures(fields_))
         return parse(noFiguresSentence(), {}, {}, {});
     for (int i = 0; i < fields_.panelCount(FieldGroup::Figures); ++i)
-        parse({}, imageTag(i), figureCaption(i), LineBreak + LineBreak);
+        parse({}, imageTag(i), figureAbbreviation(i), LineBreak + LineBreak);
 }
 
 /// The path stands as it is, without any rule of addresses; both lengths are empty while the size

@@ -165,7 +165,7 @@ void WordFilling::fillDrawings() {
     document_.DuplicateBlock(block, figures - 1, LineEnd + LineEnd);
     for (int i = 0; i < figures; ++i) {
         document_.SetFigure(image, figurePath(fields_, i));
-        set(u"FIG. N", figureCaption(i));
+        set(u"FIG. N", figureAbbreviation(i));
     }
     document_.RemoveBlockTag(block);
 }

@@ -1,0 +1,28 @@
+#include "editors/pages/SectionColumns.h"
+
+namespace quillford {
+
+void SectionColumns::scroll(const PanelScroll& scroll) {
+    column(static_cast<EditorColumn>(scroll.scrollIndex))
+        .ScrollPanelTo(scroll.row, scroll.atEnd, 0);
+}
+
+PanelColumn& SectionColumns::column(EditorColumn column) const {
+    switch (column) {
+    case EditorColumn::Inventors:
+        return pages_.inventors->column();
+    case EditorColumn::Objects:
+        return pages_.objects->column();
+    case EditorColumn::Figures:
+        return pages_.figures->column();
+    case EditorColumn::MainElements:
+        return pages_.mainElements->column();
+    case EditorColumn::SubElements:
+        return pages_.subElements->column();
+    case EditorColumn::Descriptions:
+        break;
+    }
+    return pages_.descriptions->column();
+}
+
+} // namespace quillford

@@ -1,0 +1,55 @@
+#include "editors/panels/FigurePanel.h"
+
+#include "controls/ControlArrays.h"
+#include "controls/HandCursor.h"
+#include "editors/panels/FrameCaption.h"
+#include "editors/rules/FigureSentence.h"
+#include "ui_FigurePanel.h"
+
+namespace quillford {
+
+FigurePanel::FigurePanel(int figure, QWidget& view, BoundFields& bound) : QWidget(&view) {
+    setObjectName(QStringLiteral("picFigures"));
+    Ui::FigurePanel parts;
+    parts.setupUi(this);
+    setObjectName(QStringLiteral("picFigures"));
+    showFrameCaption(*parts.lblFigN, figureCaption(figure));
+    parts.lblAttachFig->setText(attachFigureCaption(figure));
+    parts.lblFigureDetail->setText(figureDetailCaption(figure));
+    parts.txtAttachFig->setReadOnly(true);
+    // The path is shown and never typed; the keys go from the view to the two buttons.
+    parts.txtAttachFig->setFocusPolicy(Qt::ClickFocus);
+    parts.txtAttachFig->setAccessibleName(attachFigureCaption(figure));
+    parts.cboFigureType->setAccessibleName(figureCaption(figure) + QStringLiteral(": view"));
+    parts.txtFigureDetail->setAccessibleName(figureDetailCaption(figure));
+    sentence_ = parts.lblFiegureType;
+    type_ = parts.cboFigureType;
+    typeStar_ = parts.imgFigureType;
+    box_ = parts.shpFigureContain;
+    picture_ = parts.imgFigure;
+    noFigure_ = parts.lblNoFigure;
+    picture_->setScaledContents(true);
+    for (myImageButton* button : {parts.imgBrowse, parts.imgRemove})
+        button->setCursor(handCursor());
+    parts.imgBrowse->setAccessibleName(QStringLiteral("Browse for ") + figureCaption(figure));
+    parts.imgRemove->setAccessibleName(QStringLiteral("Remove ") + figureCaption(figure));
+    connect(parts.imgBrowse, &myImageButton::clicked, this, &FigurePanel::imgBrowse_Click);
+    connect(parts.imgRemove, &myImageButton::clicked, this, &FigurePanel::imgRemove_Click);
+    nameRepeated(*this, figure);
+    bound.bindAll(*this);
+}
+
+void FigurePanel::showSentence(const QString& sentence) {
+    constexpr int GapBeforeStar = 8;
+    sentence_->setText(sentence);
+    sentence_->resize(sentence_->sizeHint().width(), sentence_->height());
+    type_->move(figureTypeLeft(sentence_->x(), sentence_->width()), type_->y());
+    typeStar_->move(type_->geometry().right() + GapBeforeStar, typeStar_->y());
+}
+
+void FigurePanel::showPicture(const QImage& picture, const QRect& place) {
+    picture_->setGeometry(place.translated(box_->pos()));
+    picture_->setPixmap(QPixmap::fromImage(picture));
+}
+
+} // namespace quillford
