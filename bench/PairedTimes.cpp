@@ -11,8 +11,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Microseconds = std::chrono::duration<double, std::micro>;
 
-constexpr int UncountedRuns = 5;
-constexpr std::size_t FewestRuns = 100;
+constexpr std::size_t MostUncountedRuns = 5;
 constexpr std::chrono::seconds Duration{2};
 
 double microsecondsOf(const std::function<void()>& run) {
@@ -29,15 +28,17 @@ double median(std::vector<double> times) {
 
 } // namespace
 
-PairedTimes measuredInTurns(const std::function<void()>& ours, const std::function<void()>& peer) {
-    for (int i = 0; i < UncountedRuns; ++i) {
+PairedTimes measuredInTurns(const std::function<void()>& ours, const std::function<void()>& peer,
+                            std::size_t fewestRuns) {
+    const std::size_t uncounted = std::min(MostUncountedRuns, fewestRuns / 5);
+    for (std::size_t i = 0; i < uncounted; ++i) {
         ours();
         peer();
     }
     std::vector<double> ourTimes;
     std::vector<double> peerTimes;
     const Clock::time_point end = Clock::now() + Duration;
-    while (Clock::now() < end || ourTimes.size() < FewestRuns) {
+    while (Clock::now() < end || ourTimes.size() < fewestRuns) {
         ourTimes.push_back(microsecondsOf(ours));
         peerTimes.push_back(microsecondsOf(peer));
     }

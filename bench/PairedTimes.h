@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 
 namespace quillford {
@@ -15,8 +16,9 @@ struct PairedTimes {
 
 /// Runs the two in turns, ours, peer, ours, peer, so that whatever else the machine does falls on
 /// both alike. The first runs, which fill caches, are not counted; the others go on for two seconds
-/// and are a hundred of each at the least.
+/// and are `fewestRuns` of each at the least.
 [[nodiscard]] PairedTimes measuredInTurns(const std::function<void()>& ours,
-                                          const std::function<void()>& peer);
+                                          const std::function<void()>& peer,
+                                          std::size_t fewestRuns = 100);
 
 } // namespace quillford
