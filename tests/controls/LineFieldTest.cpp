@@ -60,6 +60,20 @@ TEST_F(LineFieldTest, typing_is_told_and_showing_a_text_is_not) {
     EXPECT_EQ(edits.last().first().toString(), field.text());
 }
 
+TEST_F(LineFieldTest, a_text_is_shown_from_its_beginning_and_while_typing_from_where_the_user_is) {
+    LineField other;
+    other.showText(u"lid"_s);
+    EXPECT_EQ(other.cursorPosition(), 0);
+    QApplication::setActiveWindow(&field);
+    QTest::keyClicks(&field, u"  hinge"_s);
+    QTest::keyClick(&field, Qt::Key_Left);
+    field.showText(u"hinge"_s); // without the blanks at its ends
+    QTest::keyClicks(&field, u"x"_s);
+    EXPECT_EQ(field.text(), u"hingxe"_s);
+    field.showText(u""_s);
+    EXPECT_EQ(field.cursorPosition(), 0);
+}
+
 TEST_F(LineFieldTest, a_line_end_that_is_pasted_becomes_one_blank) {
     paste(u"a\r\nb\nc\rd\u2028e\u2029f"_s);
     EXPECT_EQ(field.text(), u"a b c d e f"_s);
