@@ -116,6 +116,8 @@ protected:
 
     void removePicture(int) override { FAIL() << "not one of these sections"; }
 
+    void showPicture(int) override { FAIL() << "not one of these sections"; }
+
     Project project;
     ProjectFields& fields = project.fields;
     QList<int> mainElementLayouts; ///< the counts of all layouts of Section 5
