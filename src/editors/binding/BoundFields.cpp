@@ -5,6 +5,7 @@
 #include "controls/TextField.h"
 #include "core/fields/FieldLists.h"
 #include "core/wizard/FocusOrder.h"
+#include "editors/rules/KeyRules.h"
 
 #include <QCheckBox>
 #include <QRegularExpression>
@@ -46,6 +47,7 @@ void BoundFields::bind(TextField& control) {
     FieldBinding& binding =
         add(control, {&control, [&control](const QString& text) { control.showText(text); },
                       [&control](bool on) { control.setTint(on); }});
+    control.setEnterSwallowed(swallowsEnter(binding.place().field));
     control.setLimit(fieldRow(binding.place().field).limit);
     connect(&control, &TextField::edited, &binding, &FieldBinding::edit);
 }

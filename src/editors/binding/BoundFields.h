@@ -34,8 +34,9 @@ public:
     void setHooks(Hooks hooks) { hooks_ = std::move(hooks); }
 
     /// Binds a control to a field, by the control's own name: "txtFileNo", "txtObject(3)". It gets
-    /// the field's limit, its list's rows and, where it has none of its own, the field's label as
-    /// the name that assistive programs read. The binding ends with the control.
+    /// the field's limit, its rule for Enter, its list's rows and, where it has none of its own,
+    /// the field's label as the name that assistive programs read. The binding ends with the
+    /// control.
     void bind(LineField& control);
     void bind(TextField& control);
     void bind(FormCombo& control);

@@ -18,7 +18,6 @@ PageMainElements::PageMainElements(QWidget& panel, ProjectFields& fields, BoundF
     const auto parts = fillPanel<Ui::PageMainElements>(panel);
     theme::makeHeadings(panel, {u"lblMainElements"});
     theme::colour(*parts.lnMainElement, theme::Line);
-    parts.txtMainElement->setEnterSwallowed(true);
     bound.bindAll(panel);
     QWidget& view = *parts.picMainElement;
     column_ = new PanelColumn(

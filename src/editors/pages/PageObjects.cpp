@@ -18,7 +18,6 @@ PageObjects::PageObjects(QWidget& panel, ProjectFields& fields, BoundFields& bou
     const auto parts = fillPanel<Ui::PageObjects>(panel);
     theme::makeHeadings(panel, {u"lblPurposeAndObjects"});
     theme::colour(*parts.lnObjects, theme::Line);
-    parts.txtPurpose->setEnterSwallowed(true);
     bound.bindAll(panel);
     QWidget& view = *parts.picObjectsContainer;
     column_ =

@@ -1,6 +1,7 @@
 #include "editors/panels/ObjectPanel.h"
 
 #include "controls/ControlArrays.h"
+#include "controls/StarCaption.h"
 #include "controls/Theme.h"
 #include "controls/WrappedCaption.h"
 #include "ui_ObjectPanel.h"
@@ -21,7 +22,6 @@ ObjectPanel::ObjectPanel(int object, QWidget& view, BoundFields& bound)
     : QWidget(&view), parts_(std::make_unique<Ui::ObjectPanel>()) {
     parts_->setupUi(this);
     theme::colour(*parts_->lblObjectValidate, theme::Star);
-    parts_->txtObject->setEnterSwallowed(true);
     nameRepeated(*this, object);
     bound.bindAll(*this);
 }
@@ -32,6 +32,7 @@ void ObjectPanel::showSentence(const ObjectCaptions& captions) {
     QLabel& sentence = *parts_->lblObject;
     wrap(sentence, captions.sentence);
     wrap(*parts_->lblObjectValidate, captions.sentenceStar);
+    showStarAlone(*parts_->lblObjectValidate);
     parts_->txtObject->setAccessibleName(captions.sentence);
     const ObjectPanelPlaces places = objectPanelPlaces(sentence.y(), sentence.height());
     parts_->txtObject->move(parts_->txtObject->x(), places.textTop);
