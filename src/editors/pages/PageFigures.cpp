@@ -4,6 +4,7 @@
 #include "controls/Theme.h"
 #include "editors/columns/FollowFocus.h"
 #include "editors/columns/PanelCount.h"
+#include "editors/panels/ShrunkPicture.h"
 #include "editors/rules/FigureSentence.h"
 #include "editors/rules/PanelTabOrder.h"
 #include "ui_PageFigures.h"
@@ -55,6 +56,9 @@ QWidget* PageFigures::makePanel(int figure) {
             [this, figure] { attachment_.imgBrowse_Click(figure); });
     connect(panel, &FigurePanel::imgRemove_Click, this,
             [this, figure] { attachment_.imgRemove_Click(figure); });
+    // The path is not typed into, so the view follows the Tab key to its button.
+    connect(panel, &FigurePanel::browseReachedByTab, this,
+            [this, figure](const QWidget& button) { column_->FollowTab(button, figure); });
     return panel;
 }
 
@@ -75,6 +79,12 @@ void PageFigures::showFigureSentence(int figure) {
             figureSentence(figure, fields_.cboFigureType(figure).text()));
 }
 
+/// The panel may still show the picture of the project before.
+void PageFigures::showPicture(int index) {
+    clearPicture(index);
+    attachment_.showWorkingCopy(index);
+}
+
 void PageFigures::removePicture(int index) {
     if (index >= column_->panelCount())
         return;
@@ -88,12 +98,8 @@ void PageFigures::showFigures(bool on) {
 }
 
 void PageFigures::showPicture(int figure, const QString& path, const QRect& place) {
-    const QImage picture = desktop_.pictures.picture(path);
     const QSize pixels = place.size() * view_->devicePixelRatio();
-    figurePanel(figure).showPicture(
-        picture.isNull() ? picture
-                         : picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
-        place);
+    figurePanel(figure).showPicture(shrunkPicture(desktop_.pictures.picture(path), pixels), place);
 }
 
 void PageFigures::clearPicture(int figure) {

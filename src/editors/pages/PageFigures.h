@@ -30,8 +30,8 @@ public:
     /// are empty.
     void LayoutFigures(int count);
 
-    /// Shows the picture of a figure from its working copy.
-    void showPicture(int index) { attachment_.showWorkingCopy(index); }
+    /// Shows the picture of a figure from its working copy; no picture when that cannot be decoded.
+    void showPicture(int index);
 
     /// Takes the picture away from a figure's panel, and shows `lblNoFigure(index)`.
     void removePicture(int index);

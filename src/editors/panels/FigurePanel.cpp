@@ -6,13 +6,13 @@
 #include "editors/rules/FigureSentence.h"
 #include "ui_FigurePanel.h"
 
+#include <QFocusEvent>
+
 namespace quillford {
 
 FigurePanel::FigurePanel(int figure, QWidget& view, BoundFields& bound) : QWidget(&view) {
-    setObjectName(QStringLiteral("picFigures"));
     Ui::FigurePanel parts;
     parts.setupUi(this);
-    setObjectName(QStringLiteral("picFigures"));
     showFrameCaption(*parts.lblFigN, figureCaption(figure));
     parts.lblAttachFig->setText(attachFigureCaption(figure));
     parts.lblFigureDetail->setText(figureDetailCaption(figure));
@@ -25,7 +25,6 @@ FigurePanel::FigurePanel(int figure, QWidget& view, BoundFields& bound) : QWidge
     sentence_ = parts.lblFiegureType;
     type_ = parts.cboFigureType;
     typeStar_ = parts.imgFigureType;
-    box_ = parts.shpFigureContain;
     picture_ = parts.imgFigure;
     noFigure_ = parts.lblNoFigure;
     picture_->setScaledContents(true);
@@ -35,6 +34,8 @@ FigurePanel::FigurePanel(int figure, QWidget& view, BoundFields& bound) : QWidge
     parts.imgRemove->setAccessibleName(QStringLiteral("Remove ") + figureCaption(figure));
     connect(parts.imgBrowse, &myImageButton::clicked, this, &FigurePanel::imgBrowse_Click);
     connect(parts.imgRemove, &myImageButton::clicked, this, &FigurePanel::imgRemove_Click);
+    imgBrowse_ = parts.imgBrowse;
+    imgBrowse_->installEventFilter(this);
     nameRepeated(*this, figure);
     bound.bindAll(*this);
 }
@@ -48,8 +49,17 @@ void FigurePanel::showSentence(const QString& sentence) {
 }
 
 void FigurePanel::showPicture(const QImage& picture, const QRect& place) {
-    picture_->setGeometry(place.translated(box_->pos()));
+    picture_->setGeometry(place);
     picture_->setPixmap(QPixmap::fromImage(picture));
+}
+
+bool FigurePanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == imgBrowse_ && event->type() == QEvent::FocusIn) {
+        const auto reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+            Q_EMIT browseReachedByTab(*imgBrowse_);
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace quillford

@@ -30,11 +30,17 @@ Q_SIGNALS:
     void imgBrowse_Click();
     void imgRemove_Click();
 
+    /// The Tab key has come to `imgBrowse(i)`.
+    void browseReachedByTab(const QWidget& button);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QLabel* sentence_;
     QWidget* type_;
     QWidget* typeStar_;
-    QWidget* box_;
+    QWidget* imgBrowse_;
     QLabel* picture_;
     QWidget* noFigure_;
 };
