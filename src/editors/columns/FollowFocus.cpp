@@ -2,11 +2,14 @@
 
 namespace quillford {
 
-void followTab(BoundFields& bound, PanelColumn& column, FieldGroup group) {
+void followTab(BoundFields& bound, PanelColumn& column) {
     QObject::connect(&bound, &BoundFields::focusReached, &column,
-                     [&bound, &column, group](const FieldPlace& place, bool byTab) {
-                         if (byTab && fieldRow(place.field).group == group)
-                             column.FollowTab(*bound.control(place), place.index);
+                     [&bound, &column](const FieldPlace& place, bool byTab) {
+                         const QWidget& control = *bound.control(place);
+                         if (byTab &&
+                             columnFollowing(place.field) == column.arithmetic().column() &&
+                             control.parentWidget() == &column.panel(place.index))
+                             column.FollowTab(control, place.index);
                      });
 }
 

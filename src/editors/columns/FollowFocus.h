@@ -5,8 +5,9 @@
 
 namespace quillford {
 
-/// From now on the column follows the Tab key through the fields of a group, which stand directly
-/// on its panels. Ends with the column. `bound` outlives the column.
-void followTab(BoundFields& bound, PanelColumn& column, FieldGroup group);
+/// From now on the column follows the Tab key through those fields on its panels for which the
+/// rules say so. They stand directly on the panels. Ends with the column. `bound` outlives the
+/// column.
+void followTab(BoundFields& bound, PanelColumn& column);
 
 } // namespace quillford

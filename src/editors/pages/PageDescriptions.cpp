@@ -28,7 +28,7 @@ PageDescriptions::PageDescriptions(QWidget& panel, ProjectFields& fields, BoundF
     column_ = new PanelColumn(
         EditorColumn::Descriptions, page, *parts_->vscroll_5,
         [&page, &bound](int element) { return new DescriptionPanel(element, page, bound); });
-    followTab(bound, *column_, FieldGroup::Descriptions);
+    followTab(bound, *column_);
     connect(&bound, &BoundFields::focusReached, this, &PageDescriptions::focusReached);
     // The last field of the page takes 0 while it has the focus, and so comes before the first.
     order.setTabIndex(controlName({FieldId::txtMainElementNameDetail}), 1);

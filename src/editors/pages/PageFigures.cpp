@@ -29,7 +29,7 @@ PageFigures::PageFigures(QWidget& panel, ProjectFields& fields, BoundFields& bou
     bar_ = parts.vscroll_2;
     column_ = new PanelColumn(EditorColumn::Figures, *view_, *bar_,
                               [this](int figure) { return makePanel(figure); });
-    followTab(bound, *column_, FieldGroup::Figures);
+    followTab(bound, *column_);
     connect(&bound, &BoundFields::chosen, this, &PageFigures::chosen);
     // The first panel is numbered before the section is entered, since the others follow it.
     int number = 1;

@@ -2,6 +2,7 @@
 
 #include "controls/ControlArrays.h"
 #include "controls/Theme.h"
+#include "editors/columns/FollowFocus.h"
 #include "editors/panels/InventorPanel.h"
 #include "editors/rules/PanelTabOrder.h"
 #include "ui_PageInventors.h"
@@ -10,7 +11,7 @@ namespace quillford {
 
 PageInventors::PageInventors(QWidget& panel, ProjectFields& fields, BoundFields& bound,
                              FocusOrder& order)
-    : QObject(&panel), fields_(fields), bound_(bound), order_(order) {
+    : QObject(&panel), fields_(fields), order_(order) {
     const auto parts = fillPanel<Ui::PageInventors>(panel);
     theme::makeHeadings(panel, {u"lblInventors"});
     bound.bindAll(panel);
@@ -19,7 +20,7 @@ PageInventors::PageInventors(QWidget& panel, ProjectFields& fields, BoundFields&
         EditorColumn::Inventors, view, *parts.vscroll_0,
         [&view, &bound](int inventor) { return new InventorPanel(inventor, view, bound); });
     column_->makePanelsUpTo(fields.txtNameStep2.count());
-    connect(&bound, &BoundFields::focusReached, this, &PageInventors::focusReached);
+    followTab(bound, *column_);
     LayoutInventors(fields.panelCount(FieldGroup::Inventors));
 }
 
@@ -35,11 +36,6 @@ void PageInventors::LayoutInventors(int count) {
 void PageInventors::showInventors(int count) {
     for (int i = 0; i < column_->panelCount(); ++i)
         static_cast<InventorPanel&>(column_->panel(i)).setShown(i < count);
-}
-
-void PageInventors::focusReached(const FieldPlace& place, bool byTab) {
-    if (byTab && columnFollowing(place.field) == EditorColumn::Inventors)
-        column_->FollowTab(*bound_.control(place), place.index);
 }
 
 } // namespace quillford

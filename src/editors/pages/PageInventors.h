@@ -24,10 +24,8 @@ public:
 
 private:
     void showInventors(int count);
-    void focusReached(const FieldPlace& place, bool byTab);
 
     ProjectFields& fields_;
-    BoundFields& bound_;
     FocusOrder& order_;
     PanelColumn* column_;
 };

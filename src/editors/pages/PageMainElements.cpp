@@ -23,7 +23,7 @@ PageMainElements::PageMainElements(QWidget& panel, ProjectFields& fields, BoundF
     column_ = new PanelColumn(
         EditorColumn::MainElements, view, *parts.vscroll_3,
         [&view, &bound](int element) { return new MainElementPanel(element, view, bound); });
-    followTab(bound, *column_, FieldGroup::MainElements);
+    followTab(bound, *column_);
     LayoutMainElements(fields.panelCount(FieldGroup::MainElements));
 }
 

@@ -24,7 +24,7 @@ PageObjects::PageObjects(QWidget& panel, ProjectFields& fields, BoundFields& bou
         new PanelColumn(EditorColumn::Objects, view, *parts.vscroll_1, [&view, &bound](int object) {
             return new ObjectPanel(object, view, bound);
         });
-    followTab(bound, *column_, FieldGroup::Objects);
+    followTab(bound, *column_);
     // The sentences are written, and the panels numbered, before the section's own fields are.
     order.setTabIndex(controlName({FieldId::txtObject}), 2);
     LayoutObjects(fields.panelCount(FieldGroup::Objects));

@@ -22,7 +22,7 @@ PageSubElements::PageSubElements(QWidget& panel, ProjectFields& fields, BoundFie
     column_ = new PanelColumn(
         EditorColumn::SubElements, view, *parts.vscroll_4,
         [&view, &bound](int element) { return new SubElementPanel(element, view, bound); });
-    followTab(bound, *column_, FieldGroup::SubElements);
+    followTab(bound, *column_);
     LayoutSubElements(fields.panelCount(FieldGroup::SubElements));
 }
 

@@ -107,6 +107,17 @@ TEST_F(PageObjectsTest, the_star_stands_two_blanks_behind_the_sentence_whoever_w
     EXPECT_EQ(star(5), sentence(5) + u"*"_s);
 }
 
+TEST_F(PageObjectsTest, of_the_star_label_the_star_alone_shows) {
+    for (const QString& title : {u""_s, longTitle}) {
+        enterWithTitle(title);
+        const QWidget& label = control(u"lblObjectValidate(1)"_s);
+        const QRect seen = label.mask().boundingRect();
+        EXPECT_EQ(seen.bottom(), label.rect().bottom());
+        EXPECT_EQ(seen.height(), 13);
+        EXPECT_GT(seen.left(), 100);
+    }
+}
+
 TEST_F(PageObjectsTest, the_sentences_stand_still_until_the_section_is_entered_again) {
     fields.txtInventionTitle.setText(u"Easel"_s);
     EXPECT_TRUE(sentence(0).contains(u"[Descriptive Title]"_s));
