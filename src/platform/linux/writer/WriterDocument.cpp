@@ -80,8 +80,6 @@ WriterDocument::WriterDocument(const Reference<css::frame::XDesktop2>& desktop, 
 }
 
 void WriterDocument::save(const QString& file) {
-    if (document_->hasControllersLocked())
-        document_->unlockControllers();
     const Reference<css::frame::XStorable> storable(document_, UNO_QUERY_THROW);
     storable->storeToURL(urlOf(file), sequenceOf({property("FilterName", OUString("MS Word 97")),
                                                   property("Overwrite", true)}));
@@ -141,14 +139,16 @@ void WriterDocument::setListNumberFormat(int list, int level, const QString& for
                 QStringLiteral("there is no level %1 of a list %2").arg(level).arg(list));
 }
 
-css::awt::Size WriterDocument::textArea() const {
+const css::awt::Size& WriterDocument::textArea() {
+    if (textArea_)
+        return *textArea_;
     const Reference<css::beans::XPropertySet> page = pageStyle();
     const sal_Int32 width =
         length(page, "Width") - length(page, "LeftMargin") - length(page, "RightMargin");
     const sal_Int32 height =
         length(page, "Height") - length(page, "TopMargin") - length(page, "BottomMargin") -
         heightOf(page, "HeaderIsOn", "HeaderHeight") - heightOf(page, "FooterIsOn", "FooterHeight");
-    return {width, height};
+    return textArea_.emplace(width, height);
 }
 
 } // namespace quillford

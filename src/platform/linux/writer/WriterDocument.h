@@ -8,6 +8,7 @@
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/frame/XDesktop2.hpp>
 #include <com/sun/star/text/XTextDocument.hpp>
+#include <optional>
 
 namespace quillford {
 
@@ -16,7 +17,7 @@ namespace quillford {
 class WriterDocument {
 public:
     /// Loads the file, as a template for a new document or as the document itself, and keeps it
-    /// from laying out pages until it is saved or printed.
+    /// from laying out pages until it is printed.
     ///
     /// @param name  how failures name the file
     WriterDocument(const css::uno::Reference<css::frame::XDesktop2>& desktop, const QString& file,
@@ -37,13 +38,14 @@ public:
     void setHeader(const QString& text);
     void setListNumberFormat(int list, int level, const QString& format);
 
-    /// Width and height of the text of a page, in hundredths of a millimetre.
-    [[nodiscard]] css::awt::Size textArea() const;
+    /// Width and height of the text of a page, in hundredths of a millimetre. Asked for once.
+    [[nodiscard]] const css::awt::Size& textArea();
 
 private:
     [[nodiscard]] css::uno::Reference<css::beans::XPropertySet> pageStyle() const;
 
     css::uno::Reference<css::text::XTextDocument> document_;
+    std::optional<css::awt::Size> textArea_;
 };
 
 } // namespace quillford

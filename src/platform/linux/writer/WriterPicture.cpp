@@ -58,7 +58,7 @@ Size roomForPicture(Size textArea) {
 } // namespace
 
 Reference<css::text::XTextContent>
-makePicture(const WriterDocument& document, const Reference<css::uno::XComponentContext>& context,
+makePicture(WriterDocument& document, const Reference<css::uno::XComponentContext>& context,
             const QString& file, const QString& name) {
     const Reference<css::graphic::XGraphic> graphic = readGraphic(context, file);
     if (!graphic.is())

@@ -14,7 +14,7 @@ namespace quillford {
 ///
 /// @param name  how the failure names the file
 [[nodiscard]] css::uno::Reference<css::text::XTextContent>
-makePicture(const WriterDocument& document,
+makePicture(WriterDocument& document,
             const css::uno::Reference<css::uno::XComponentContext>& context, const QString& file,
             const QString& name);
 

@@ -50,7 +50,9 @@ WriterSelection::WriterSelection(const Reference<css::text::XTextDocument>& docu
 /// Headers and footers are searched behind the body, but hold nothing that is looked for.
 bool WriterSelection::find(const QString& text) {
     const bool isNextOfFind = text.compare(found_, Qt::CaseInsensitive) == 0;
-    search_->setSearchString(toOUString(text));
+    if (text != searched_)
+        search_->setSearchString(toOUString(text));
+    searched_ = text;
     const Range from = isNextOfFind ? Range(cursor_.get()) : start();
     const bool isFound =
         select(searchable_->findNext(from, search_)) || select(searchable_->findFirst(search_));

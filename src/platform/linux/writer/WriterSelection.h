@@ -60,6 +60,7 @@ private:
     css::uno::Reference<css::text::XTextCursor> cursor_;
     css::uno::Reference<css::util::XSearchable> searchable_;
     css::uno::Reference<css::util::XSearchDescriptor> search_;
+    QString searched_;
     QString found_; ///< what was found, while that is what is selected
     css::uno::Reference<css::datatransfer::XTransferable> copied_;
     css::uno::Any copiedStyle_;
