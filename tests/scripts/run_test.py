@@ -38,10 +38,11 @@ class RunTest(unittest.TestCase):
         (self.tree / "CMakeLists.txt").write_text(CMAKE_LISTS)
         (self.tree / "source.txt").touch()
 
-    def run_script(self, *arguments):
+    def run_script(self, *arguments, display=None):
         environment = dict(os.environ, HOME=str(self.place))
         for name in ("DISPLAY", "WAYLAND_DISPLAY", "Temp"):
             environment.pop(name, None)
+        environment.update(display or {})
         return subprocess.run([self.tree / "scripts/run", *arguments], cwd=self.place,
                               env=environment, capture_output=True, text=True, timeout=300)
 
@@ -58,6 +59,18 @@ class RunTest(unittest.TestCase):
     def test_without_a_project_it_composes_the_sample(self):
         self.assertIn("Folding Field Easel",
                       self.expect_draft(self.run_script(), "folding-easel.htm"))
+
+    def test_with_a_display_it_starts_the_wizard_with_the_project(self):
+        self.run_script()
+        wizard = self.tree / "build/release/Quillford/quillford"
+        wizard.write_text('#!/bin/sh\necho "the wizard: $# $1"\n')
+        wizard.chmod(0o755)
+        for display in ({"DISPLAY": ":7"}, {"WAYLAND_DISPLAY": "wayland-0"}):
+            started = self.run_script(display=display)
+            self.assertEqual(started.stdout.splitlines()[-1], "the wizard: 0 ")
+            opened = self.run_script("my clip.ivd", display=display)
+            self.assertEqual(opened.stdout.splitlines()[-1],
+                             f"the wizard: 1 {self.place}/my clip.ivd")
 
     def test_a_second_run_builds_nothing_and_says_only_where_the_draft_lies(self):
         first = self.run_script()
