@@ -66,7 +66,7 @@ void WelcomePage::hide() {
 
 void WelcomePage::setRecentProjects(const QList<QString>& captions) {
     while (rows_.size() > captions.size() + 1)
-        delete rows_.takeLast();
+        dropRow();
     while (rows_.size() < captions.size() + 1)
         rows_.append(makeRow(static_cast<int>(rows_.size())));
     for (qsizetype i = 0; i < captions.size(); ++i) {
@@ -76,6 +76,14 @@ void WelcomePage::setRecentProjects(const QList<QString>& captions) {
         row.setToolTip(captions[i]);
     }
     more_->move(more_->x(), FirstRowTop + static_cast<int>(captions.size()) * RowPitch);
+}
+
+/// The row may be dropped by what its own click has started.
+void WelcomePage::dropRow() {
+    ClickLabel* row = rows_.takeLast();
+    row->setObjectName(QString());
+    row->hide();
+    row->deleteLater();
 }
 
 ClickLabel* WelcomePage::makeRow(int row) {

@@ -37,6 +37,7 @@ Q_SIGNALS:
 
 private:
     ClickLabel* makeRow(int row);
+    void dropRow();
 
     QWidget* page_;
     ClickLabel* more_;
