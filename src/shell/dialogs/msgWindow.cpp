@@ -30,6 +30,7 @@ const auto ExportText = QStringLiteral(
     "format that you would like to export your provisional patent application to.");
 
 constexpr int GapUnderText = 50;
+constexpr int GapOverFormats = 18;
 constexpr int BottomMargin = 19;
 
 } // namespace
@@ -75,6 +76,7 @@ UserPrompts::ExportChoice msgWindow::showExportToFileMsgWindow(bool wordInstalle
     ui_->lblShowMessage->setText(ExportText);
     arrange({ui_->cmdExport, ui_->cmdCancel, ui_->optFormat_0, ui_->optFormat_1,
              ui_->lblExportToFileFormat});
+    placeFormats();
     ui_->optFormat_0->setEnabled(wordInstalled);
     (wordInstalled ? ui_->optFormat_0 : ui_->optFormat_1)->setChecked(true);
     ui_->cmdExport->setFocus();
@@ -120,6 +122,17 @@ void msgWindow::placeMark() {
     const QTextLine line = layout.lineForTextPosition(static_cast<int>(gap));
     const qreal left = line.cursorToX(static_cast<int>(gap)) + 2;
     ui_->imgMsgMark->move(label.pos() + QPoint(qRound(left), qRound(line.y())));
+}
+
+/// The label of the formats and their buttons stand under the text.
+void msgWindow::placeFormats() {
+    QLabel& text = *ui_->lblShowMessage;
+    text.resize(text.width(), text.heightForWidth(text.width()));
+    const int top = text.y() + text.height() + GapOverFormats;
+    const int shift = top - ui_->optFormat_0->y();
+    for (QWidget* control : std::initializer_list<QWidget*>{ui_->lblExportToFileFormat,
+                                                            ui_->optFormat_0, ui_->optFormat_1})
+        control->move(control->x(), control->y() + shift);
 }
 
 void msgWindow::moveButtonsTo(int top) {

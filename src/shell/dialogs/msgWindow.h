@@ -38,6 +38,7 @@ private:
     void arrange(std::initializer_list<QWidget*> shown);
     void tellChanges(const UserPrompts::NotAgainChanged& changed);
     void placeMark();
+    void placeFormats();
     void moveButtonsTo(int top);
 
     std::unique_ptr<Ui::msgWindow> ui_;
