@@ -62,17 +62,19 @@ void benchExport(const BenchProject& sample, bool isLargest, const QString& fold
         [&] { convert(QStringLiteral("doc:MS Word 97"), QStringLiteral("text.fodt"), folder); },
         isLargest ? RunsOfLargest : Runs);
     QFile::remove(folder + QStringLiteral("/text.fodt"));
-    std::printf("%-14s %12.0f %12.0f %7.2f  %-17s %6d\n", qPrintable(sample.name),
-                times.ours / 1000, times.peer / 1000, times.ratio(),
-                times.ratio() <= MostTimesConversion ? "at most 1.5, met" : "at most 1.5, missed",
-                times.runs);
+    // The aim is for the middling project; the largest fills its marks one by one, too.
+    const char* aim = sample.name != u"folding easel"        ? "none"
+                      : times.ratio() <= MostTimesConversion ? "at most 1.5, met"
+                                                             : "at most 1.5, missed";
+    std::printf("%-14s %12.0f %12.0f %7.2f  %-19s %6d\n", qPrintable(sample.name),
+                times.ours / 1000, times.peer / 1000, times.ratio(), aim, times.runs);
 }
 
 void benchAll() {
     const QTemporaryDir folder;
     if (!folder.isValid())
         throw Error(0, folder.errorString(), folder.path());
-    std::printf("%-14s %12s %12s %7s  %-17s %6s\n", "project", "export [ms]", "soffice [ms]",
+    std::printf("%-14s %12s %12s %7s  %-19s %6s\n", "project", "export [ms]", "soffice [ms]",
                 "ratio", "aim", "runs");
     const QString clip = QStringLiteral(QUILLFORD_SAMPLES "/pencil-clip/pencil-clip.json");
     benchExport({QStringLiteral("pencil clip"), clip}, false, folder.path());

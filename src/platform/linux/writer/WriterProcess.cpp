@@ -1,8 +1,10 @@
 #include "platform/linux/writer/WriterProcess.h"
 
 #include "base/Error.h"
+#include "base/Files.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QUrl>
 
@@ -28,6 +30,27 @@ QProcessEnvironment environment(const QString& folder) {
                                 QStringLiteral("TMP"), QStringLiteral("TEMP")})
         variables.insert(name, folder);
     return variables;
+}
+
+/// The build that LibreOffice tells of itself, or nothing.
+QByteArray buildId(const QDir& programs) {
+    QFile versions(programs.filePath(QStringLiteral("versionrc")));
+    if (!versions.open(QIODevice::ReadOnly))
+        return {};
+    while (!versions.atEnd()) {
+        const QByteArray line = versions.readLine();
+        if (line.startsWith("buildid="))
+            return line.sliced(line.indexOf('=') + 1).chopped(line.endsWith('\n') ? 1 : 0);
+    }
+    return {};
+}
+
+/// In a profile that knows the build, LibreOffice looks for no extensions to set up, after which it
+/// would ask to be started once more. Without this it does, which only takes longer.
+void markProfile(const QString& profile, const QByteArray& build) {
+    const QDir extensions(profile + QStringLiteral("/user/extensions"));
+    if (!build.isEmpty() && extensions.mkpath(QStringLiteral(".")))
+        replaceFile(extensions.filePath(QStringLiteral("buildid")), build);
 }
 
 } // namespace
@@ -57,6 +80,7 @@ WriterProcess::WriterProcess(const WriterStart& start)
         ::setpgid(0, 0);
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     });
+    markProfile(place(QStringLiteral("profile")), buildId(programs));
     run();
 }
 
