@@ -92,6 +92,8 @@ void LineField::dropEvent(QDropEvent* event) {
 }
 
 void LineField::inputMethodEvent(QInputMethodEvent* event) {
+    if (isReadOnly())
+        return event->ignore();
     limit_.cut(*event, staying());
     QLineEdit::inputMethodEvent(event);
 }

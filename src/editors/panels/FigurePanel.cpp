@@ -10,12 +10,24 @@
 
 namespace quillford {
 
+namespace {
+
+/// Shows a caption in its full width, and its star behind it.
+void showCaption(QLabel& label, QWidget& star, const QString& text) {
+    constexpr int GapBeforeStar = 2;
+    label.setText(text);
+    label.resize(label.sizeHint().width(), label.height());
+    star.move(label.x() + label.width() + GapBeforeStar, star.y());
+}
+
+} // namespace
+
 FigurePanel::FigurePanel(int figure, QWidget& view, BoundFields& bound) : QWidget(&view) {
     Ui::FigurePanel parts;
     parts.setupUi(this);
     showFrameCaption(*parts.lblFigN, figureCaption(figure));
-    parts.lblAttachFig->setText(attachFigureCaption(figure));
-    parts.lblFigureDetail->setText(figureDetailCaption(figure));
+    showCaption(*parts.lblAttachFig, *parts.imgFigureValidate, attachFigureCaption(figure));
+    showCaption(*parts.lblFigureDetail, *parts.imgDetailFigValidate, figureDetailCaption(figure));
     parts.txtAttachFig->setReadOnly(true);
     // The path is shown and never typed; the keys go from the view to the two buttons.
     parts.txtAttachFig->setFocusPolicy(Qt::ClickFocus);
