@@ -1,0 +1,140 @@
+#include "core/fields/FieldTable.h"
+#include "core/wizard/FocusOrder.h"
+#include "persistence/project/PictureList.h"
+#include "persistence/project/ProjectReader.h"
+#include "support/Files.h"
+#include "typed/ProjectTypist.h"
+
+#include <QCryptographicHash>
+
+using namespace quillford;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class WholeProject : public ProjectTypist {
+protected:
+    WholeProject()
+        : ProjectTypist(QStringLiteral(QUILLFORD_SAMPLES "/folding-easel/folding-easel.json")) {}
+
+    void expectWarning(const QString& button, bool tickBox = false) {
+        windows.expectMessageWindow(u"Section Not Complete"_s, button, tickBox);
+    }
+
+    void expectAdvice(bool tickBox = false) {
+        windows.expectMessageWindow(u"Drawings - Important Information!"_s, u"cmdOK"_s, tickBox);
+    }
+
+    void next() {
+        user->click(u"btnStep(1)"_s);
+        user->comeBack();
+    }
+
+    void back() { user->click(u"btnStep(0)"_s); }
+
+    [[nodiscard]] bool isMarkedComplete(int tab) const {
+        return user->control(controlName(u"picTab", tab)).accessibleName().contains(u"complete");
+    }
+
+    void typeIntroduction() {
+        expectWarning(u"cmdNo"_s);
+        next();
+        typeSection(1);
+        next();
+    }
+
+    void typeInventors() {
+        chooseCount(u"cboInventorsNum"_s, told.fields.cboInventorsNum.number());
+        windows.expectBox(u"Information"_s,
+                          u"Do you want Quillford 3.1 to use the information provided in section "
+                          "1.Introduction for the First Inventor?"_s,
+                          QMessageBox::Yes);
+        user->tabTo(u"chkSameAsContact"_s);
+        user->press(Qt::Key_Space);
+        user->comeBack();
+        typeSection(2);
+        clickTab(2);
+    }
+
+    void typeObjects() {
+        chooseCount(u"cboObjectNum"_s, told.fields.cboObjectNum.number());
+        typeSection(3);
+        expectAdvice();
+        next();
+    }
+
+    void typeFigures() {
+        chooseCount(u"cboFiguresNum"_s, told.fields.cboFiguresNum.number());
+        attachPictures();
+        // A look back at the section before, and in again.
+        expectWarning(u"cmdYes"_s, true);
+        clickTab(2);
+        expectAdvice(true);
+        next();
+        typeSection(4);
+        back();
+        next();
+        next();
+    }
+
+    void typeElements() {
+        chooseCount(u"cboMainElementNum"_s, told.fields.cboMainElementNum.number());
+        typeSection(5);
+        next();
+        typeSection(6);
+        clickTab(6);
+        typeSection(7);
+        next();
+        typeSection(8);
+    }
+
+    void typeAll() {
+        typeIntroduction();
+        typeInventors();
+        typeObjects();
+        typeFigures();
+        typeElements();
+    }
+};
+
+QByteArray sha256(const QString& path) {
+    return QCryptographicHash::hash(contentOf(path), QCryptographicHash::Sha256);
+}
+
+} // namespace
+
+TEST_F(WholeProject, typed_in_through_all_sections_is_saved_field_by_field_as_it_was_told) {
+    typeAll();
+    const QString path = folder.path() + u"/easel.ivd"_s;
+    saveAs(path);
+
+    Project saved;
+    PictureList pictures;
+    readProject(path, saved, pictures);
+    int compared = 0;
+    for (const FieldRow& row : fieldTable()) {
+        ASSERT_EQ(saved.fields.count(row.id), told.fields.count(row.id))
+            << row.name.toString().toStdString();
+        for (int i = 0; i < told.fields.count(row.id); ++i, ++compared)
+            EXPECT_EQ(saved.fields.at(row.id, i).text(), told.fields.at(row.id, i).text())
+                << row.name.toString().toStdString() << " " << i;
+    }
+    EXPECT_GT(compared, 150);
+    ASSERT_EQ(pictures.pictures().size(), 5);
+    for (const PictureList::Picture& picture : pictures.pictures())
+        EXPECT_EQ(picture.sha256, sha256(picture.path)) << picture.figure;
+}
+
+TEST_F(WholeProject, typed_in_through_all_sections_completes_them_and_shows_the_final_draft) {
+    typeAll();
+    windows.expectBox(u"Save Project?"_s,
+                      u"It is recommended you save your project before creating a final draft. Do "
+                      "you wish to save your project now?"_s,
+                      QMessageBox::Yes);
+    windows.expectFileDialog(folder.path() + u"/easel.ivd"_s);
+    next();
+    EXPECT_TRUE(windows.allCame());
+    for (int tab = 0; tab <= 8; ++tab)
+        EXPECT_TRUE(isMarkedComplete(tab)) << tab;
+    EXPECT_TRUE(user->control(u"imgCreateToFile(1)"_s).isEnabled());
+}
