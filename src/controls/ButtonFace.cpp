@@ -49,7 +49,7 @@ void ButtonFace::paintEvent(QPaintEvent*) {
 
 void ButtonFace::drawFace(QPainter& painter) const {
     const bool enabled = button_.isEnabled();
-    const QColor main = !enabled       ? theme::Line
+    const QColor main = !enabled       ? theme::Disabled
                         : pressed_     ? theme::HeadingDark
                         : underMouse() ? theme::HeadingDark
                                        : theme::Heading;

@@ -71,7 +71,8 @@ void makeHeadings(QWidget& form, std::initializer_list<QStringView> names) {
 
 void colour(QWidget& widget, const QColor& colour) {
     QPalette colours = widget.palette();
-    colours.setColor(QPalette::WindowText, colour);
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+        colours.setColor(group, QPalette::WindowText, colour);
     widget.setPalette(colours);
 }
 
@@ -79,6 +80,8 @@ void apply(QApplication& application) {
     application.setStyle(new LookStyle);
     application.setPalette(lightPalette());
     application.setFont(captionFont());
+    // The small sans of the pages that the program writes for its own preview.
+    QFont::insertSubstitution(QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans"));
     for (const char* field : {"QLineEdit", "QPlainTextEdit", "QComboBox", "QAbstractItemView"})
         QApplication::setFont(fieldFont(), field);
 }

@@ -22,6 +22,7 @@ inline constexpr QColor Window{244, 246, 248};
 inline constexpr QColor MenuRow{230, 234, 240};
 inline constexpr QColor Text{31, 41, 55};
 inline constexpr QColor MutedText{122, 132, 146};
+inline constexpr QColor Disabled{196, 202, 211}; ///< a button that cannot be pressed
 inline constexpr QColor Star{196, 43, 43};
 inline constexpr QColor Complete{46, 139, 87};
 inline constexpr QColor White{255, 255, 255};
@@ -41,7 +42,7 @@ void makeHeading(QLabel& label);
 /// array; a name that the form does not have is passed over.
 void makeHeadings(QWidget& form, std::initializer_list<QStringView> names);
 
-/// Gives a label or line a colour of its own.
+/// Gives a label or line a colour of its own; disabled, it is grey like others.
 void colour(QWidget& widget, const QColor& colour);
 
 /// Gives the application this look, before its first window is made.
