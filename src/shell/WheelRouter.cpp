@@ -37,16 +37,20 @@ bool WheelRouter::eventFilter(QObject* watched, QEvent* event) {
     const auto* widget = qobject_cast<QWidget*>(watched);
     if (!widget || widget->window() != &form_)
         return false;
-    const int angle = static_cast<QWheelEvent*>(event)->angleDelta().y();
-    if (angle == 0 || helpHasFocus(*widget) || canScrollItself(*widget, angle))
+    const auto& wheel = *static_cast<QWheelEvent*>(event);
+    const int angle = wheel.angleDelta().y();
+    if (angle == 0 || helpHasFocus(wheel.globalPosition()) || canScrollItself(*widget, angle))
         return false;
     turn(angle);
     return true;
 }
 
-bool WheelRouter::helpHasFocus(const QWidget& under) const {
+/// What counts is where the mouse is: a notch that the pane has no use for comes here once more, as
+/// an event of the form.
+bool WheelRouter::helpHasFocus(const QPointF& mouse) const {
     const QWidget* focus = QApplication::focusWidget();
-    return helpPane_.isAncestorOf(&under) || (focus && helpPane_.isAncestorOf(focus));
+    return helpPane_.rect().contains(helpPane_.mapFromGlobal(mouse).toPoint()) ||
+           (focus && helpPane_.isAncestorOf(focus));
 }
 
 /// A touch pad turns in fractions of a notch; they are gathered until a whole one is there.

@@ -28,7 +28,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    [[nodiscard]] bool helpHasFocus(const QWidget& under) const;
+    [[nodiscard]] bool helpHasFocus(const QPointF& mouse) const;
     void turn(int angle);
 
     QWidget& form_;

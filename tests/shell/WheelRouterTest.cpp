@@ -1,10 +1,9 @@
 #include "shell/WheelRouter.h"
 
 #include "support/PrintQt.h"
+#include "support/TurnWheel.h"
 
 #include <QPlainTextEdit>
-#include <QTest>
-#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -12,9 +11,6 @@ using namespace quillford;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr int NotchDown = -120;
-constexpr int NotchUp = 120;
 
 class WheelRouterTest : public testing::Test {
 protected:
@@ -40,13 +36,6 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    static void turn(QWidget& under, int angle) {
-        const QPointF middle = under.rect().center();
-        QWheelEvent event(middle, under.mapToGlobal(middle), {}, {0, angle}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&under, &event);
-    }
-
     QWidget window;
     QWidget panel{&window};
     QPlainTextEdit text{&panel};
@@ -61,46 +50,46 @@ protected:
 } // namespace
 
 TEST_F(WheelRouterTest, a_notch_moves_the_sections_bar_by_its_large_change) {
-    turn(panel, NotchDown);
+    turnWheel(panel, NotchDown);
     EXPECT_EQ(section.value(), 100);
-    turn(window, NotchDown);
+    turnWheel(window, NotchDown);
     EXPECT_EQ(section.value(), 200) << "the mouse may be anywhere over the form";
-    turn(panel, NotchUp);
+    turnWheel(panel, NotchUp);
     EXPECT_EQ(section.value(), 100);
     EXPECT_EQ(index.value(), 0);
 }
 
 TEST_F(WheelRouterTest, at_its_ends_the_bar_stays_at_the_limit) {
     section.setValue(200);
-    turn(panel, NotchDown);
+    turnWheel(panel, NotchDown);
     EXPECT_EQ(section.value(), 250);
-    turn(panel, NotchDown);
+    turnWheel(panel, NotchDown);
     EXPECT_EQ(section.value(), 250);
     section.setValue(40);
-    turn(panel, NotchUp);
+    turnWheel(panel, NotchUp);
     EXPECT_EQ(section.value(), 0);
-    turn(panel, NotchUp);
+    turnWheel(panel, NotchUp);
     EXPECT_EQ(section.value(), 0);
 }
 
 TEST_F(WheelRouterTest, with_the_mouse_over_the_help_pane_the_bar_is_left_alone) {
-    turn(help, NotchDown);
-    turn(helpText, NotchDown);
+    turnWheel(help, NotchDown);
+    turnWheel(helpText, NotchDown);
     EXPECT_EQ(section.value(), 0);
 }
 
 TEST_F(WheelRouterTest, with_the_focus_in_the_help_pane_the_bar_is_left_alone) {
     helpText.setFocus();
-    turn(panel, NotchDown);
+    turnWheel(panel, NotchDown);
     EXPECT_EQ(section.value(), 0);
     text.setFocus();
-    turn(panel, NotchDown);
+    turnWheel(panel, NotchDown);
     EXPECT_EQ(section.value(), 100);
 }
 
 TEST_F(WheelRouterTest, while_the_index_has_the_focus_its_bar_moves_in_place_of_the_sections) {
     indexHasFocus = true;
-    turn(panel, NotchDown);
+    turnWheel(panel, NotchDown);
     EXPECT_EQ(index.value(), 100);
     EXPECT_EQ(section.value(), 0);
 }
@@ -108,69 +97,67 @@ TEST_F(WheelRouterTest, while_the_index_has_the_focus_its_bar_moves_in_place_of_
 TEST_F(WheelRouterTest, an_index_with_the_focus_and_nothing_to_scroll_takes_the_notch_for_itself) {
     indexHasFocus = true;
     index.hide();
-    turn(panel, NotchDown);
+    turnWheel(panel, NotchDown);
     EXPECT_EQ(index.value(), 0);
     EXPECT_EQ(section.value(), 0);
 }
 
 TEST_F(WheelRouterTest, a_bar_that_is_hidden_is_not_moved) {
     section.hide();
-    turn(panel, NotchDown);
+    turnWheel(panel, NotchDown);
     EXPECT_EQ(section.value(), 0);
 }
 
 TEST_F(WheelRouterTest, on_a_section_without_a_bar_no_bar_moves) {
     hasSectionBar = false;
-    turn(panel, NotchDown);
+    turnWheel(panel, NotchDown);
     EXPECT_EQ(section.value(), 0);
     EXPECT_EQ(index.value(), 0);
 }
 
 TEST_F(WheelRouterTest, fractions_of_a_notch_are_gathered) {
     for (int i = 0; i < 3; ++i)
-        turn(panel, NotchDown / 4);
+        turnWheel(panel, NotchDown / 4);
     EXPECT_EQ(section.value(), 0);
-    turn(panel, NotchDown / 4);
+    turnWheel(panel, NotchDown / 4);
     EXPECT_EQ(section.value(), 100);
 }
 
 TEST_F(WheelRouterTest, fractions_that_are_turned_back_come_to_nothing) {
-    turn(panel, NotchDown / 2);
-    turn(panel, NotchUp / 2);
-    turn(panel, NotchDown / 2);
+    turnWheel(panel, NotchDown / 2);
+    turnWheel(panel, NotchUp / 2);
+    turnWheel(panel, NotchDown / 2);
     EXPECT_EQ(section.value(), 0);
-    turn(panel, NotchDown / 2);
+    turnWheel(panel, NotchDown / 2);
     EXPECT_EQ(section.value(), 100);
 }
 
 TEST_F(WheelRouterTest, a_turn_over_several_notches_counts_each) {
-    turn(panel, 2 * NotchDown);
+    turnWheel(panel, 2 * NotchDown);
     EXPECT_EQ(section.value(), 200);
 }
 
 TEST_F(WheelRouterTest, a_box_of_text_that_can_still_move_keeps_the_notch) {
-    turn(*text.viewport(), NotchDown);
+    turnWheel(*text.viewport(), NotchDown);
     EXPECT_GT(text.verticalScrollBar()->value(), 0);
-    turn(*text.viewport(), NotchDown / 8);
+    turnWheel(*text.viewport(), NotchDown / 8);
     EXPECT_EQ(section.value(), 0);
 }
 
 TEST_F(WheelRouterTest, at_the_end_of_a_box_of_text_the_notch_is_the_sections) {
     text.verticalScrollBar()->setValue(text.verticalScrollBar()->maximum());
-    turn(*text.viewport(), NotchDown);
+    turnWheel(*text.viewport(), NotchDown);
     EXPECT_EQ(section.value(), 100);
     text.verticalScrollBar()->setValue(0);
-    turn(*text.viewport(), NotchUp);
+    turnWheel(*text.viewport(), NotchUp);
     EXPECT_EQ(section.value(), 0);
     text.clear();
-    turn(*text.viewport(), NotchDown);
+    turnWheel(*text.viewport(), NotchDown);
     EXPECT_EQ(section.value(), 100) << "a box whose text fits has no notch to keep";
 }
 
 TEST_F(WheelRouterTest, a_turn_to_the_side_moves_no_bar) {
-    QWheelEvent event({5, 5}, panel.mapToGlobal(QPointF(5, 5)), {}, {NotchDown, 0}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&panel, &event);
+    turnWheel(panel, QPoint(NotchDown, 0));
     EXPECT_EQ(section.value(), 0);
 }
 
@@ -178,7 +165,7 @@ TEST_F(WheelRouterTest, another_window_keeps_its_notches) {
     QScrollBar other(Qt::Vertical);
     other.setRange(0, 100);
     other.show();
-    turn(other, NotchDown);
+    turnWheel(other, NotchDown);
     EXPECT_GT(other.value(), 0);
     EXPECT_EQ(section.value(), 0);
 }

@@ -47,7 +47,11 @@ private:
 
     void meet(QWidget* shown) {
         looking_ = false;
-        if (shown && shown->isVisible() && steps_.front().fits(shown)) {
+        const bool fits = shown && shown->isVisible() && steps_.front().fits(shown);
+        // The window behind a box that was closed does not become active by itself.
+        if (fits && !shown->isActiveWindow())
+            shown->activateWindow();
+        if (fits && shown->isActiveWindow()) {
             const Step step = std::move(steps_.front());
             steps_.pop_front();
             patience_ = QDeadlineTimer(Patience);
