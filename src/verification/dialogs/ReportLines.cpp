@@ -1,5 +1,6 @@
 #include "verification/dialogs/ReportLines.h"
 
+#include "base/Text.h"
 #include "core/text/LineBreaks.h"
 
 namespace quillford {
@@ -32,7 +33,8 @@ public:
         report_.cells.append(cell);
         line(Indent, QStringLiteral("-"), TextWeight::Regular, number);
         for (const QString& words : lines) {
-            line(Indent + HyphenWidth, words, TextWeight::Regular, number);
+            // A line that was filled exactly leaves the blank behind it to the next one.
+            line(Indent + HyphenWidth, trimBlanks(words).toString(), TextWeight::Regular, number);
             report_.height += measure_.lineHeight();
         }
     }
