@@ -103,6 +103,10 @@ public:
 
     void scrollDescriptionsToTop() override { log_.take("descriptions to top"); }
 
+    void bringIntoView(FieldId field, int index) override {
+        log_.take(callText("into view " + fieldRow(field).name.toString().toStdString(), index));
+    }
+
     void showPicture(int index) override { log_.take(callText("show picture", index)); }
 
     void removePicture(int index) override { log_.take(callText("remove picture", index)); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/fields/FieldTable.h"
+
 namespace quillford {
 
 /// The columns of panels in the sections, as seen by whoever is no section: the navigation, filing
@@ -32,6 +34,9 @@ public:
 
     /// Scrolls the page of Section 7 to its top.
     virtual void scrollDescriptionsToTop() = 0;
+
+    /// Scrolls the column of a field of a panel until the field is in view, as the Tab key does.
+    virtual void bringIntoView(FieldId field, int index) = 0;
 
     /// Shows the picture of a figure, as it lies in its working copy, in the figure's panel, and
     /// hides `lblNoFigure(index)`. A picture that cannot be read leaves the panel without one.

@@ -89,6 +89,8 @@ void DraftCommands::afterCheck(const ExportCheck::Outcome& outcome) {
         return;
     case ExportCheck::Answer::GoToCell:
         parts_.navigator.SwitchTab(ElementTablesTab);
+        parts_.screen.guidance.TextHighLight(ElementTablesTab);
+        parts_.screen.columns.bringIntoView(outcome.field, outcome.index);
         parts_.screen.pages.focusField(outcome.field, outcome.index);
         return;
     case ExportCheck::Answer::Cancel:

@@ -1,10 +1,19 @@
 #include "editors/pages/SectionColumns.h"
 
+#include "editors/rules/FollowTab.h"
+
 namespace quillford {
 
 void SectionColumns::scroll(const PanelScroll& scroll) {
     column(static_cast<EditorColumn>(scroll.scrollIndex))
         .ScrollPanelTo(scroll.row, scroll.atEnd, 0);
+}
+
+void SectionColumns::bringIntoView(FieldId field, int index) {
+    const auto following = columnFollowing(field);
+    const QWidget* control = bound_.control({field, index});
+    if (following && control)
+        column(*following).FollowTab(*control, index);
 }
 
 PanelColumn& SectionColumns::column(EditorColumn column) const {

@@ -2,6 +2,7 @@
 
 #include "core/rules/GuidanceRules.h"
 #include "core/wizard/EditorColumns.h"
+#include "editors/binding/BoundFields.h"
 #include "editors/columns/PanelColumn.h"
 #include "editors/pages/PageDescriptions.h"
 #include "editors/pages/PageFigures.h"
@@ -25,7 +26,8 @@ public:
         PageDescriptions* descriptions;
     };
 
-    explicit SectionColumns(const Pages& pages) : pages_(pages) {}
+    /// `bound` outlives the columns too.
+    SectionColumns(const Pages& pages, const BoundFields& bound) : pages_(pages), bound_(bound) {}
 
     void LayoutInventors(int count) override { pages_.inventors->LayoutInventors(count); }
 
@@ -49,6 +51,8 @@ public:
 
     void scrollDescriptionsToTop() override { pages_.descriptions->scrollDescriptionsToTop(); }
 
+    void bringIntoView(FieldId field, int index) override;
+
     void showPicture(int index) override { pages_.figures->showPicture(index); }
 
     void removePicture(int index) override { pages_.figures->removePicture(index); }
@@ -63,6 +67,7 @@ private:
     [[nodiscard]] PanelColumn& column(EditorColumn column) const;
 
     Pages pages_;
+    const BoundFields& bound_;
 };
 
 } // namespace quillford

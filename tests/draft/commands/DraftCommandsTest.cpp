@@ -148,7 +148,8 @@ TEST_F(DraftCommandsTest, the_check_leads_into_a_cell_of_the_tables) {
     check.outcome = {Answer::GoToCell, FieldId::txtElementSub1, 1};
     commands.imgCreateToFile(2);
     EXPECT_EQ(state.currentTab, 5);
-    EXPECT_TRUE(log.has("focus txtElementSub1"));
+    EXPECT_EQ(Calls(log.calls.end() - 3, log.calls.end()),
+              (Calls{"TextHighLight 5", "into view txtElementSub1 1", "focus txtElementSub1"}));
     EXPECT_TRUE(prompts.fileQuestions.empty());
 }
 
