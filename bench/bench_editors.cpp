@@ -1,166 +1,226 @@
 #include "BareWidgets.h"
+#include "BenchProjects.h"
+#include "EditorPages.h"
 #include "PairedTimes.h"
+#include "app/Program.h"
 #include "base/Error.h"
+#include "controls/FormCombo.h"
 #include "controls/Theme.h"
-#include "editors/pages/PageFigures.h"
-#include "editors/pages/PageInventors.h"
-#include "editors/pages/PageObjects.h"
-#include "platform/linux/QtPictureReader.h"
+#include "core/settings/SettingsNames.h"
+#include "persistence/project/ProjectReader.h"
+#include "persistence/project/ProjectWriter.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QTemporaryDir>
+#include <QtTest>
 
 #include <algorithm>
 #include <cstdio>
-#include <memory>
-#include <stdexcept>
 #include <vector>
 
-/// The repeated panels of Sections 2 to 4: a count that goes from one panel to the most and back,
-/// beside a bare loop that makes and destroys as many of the same widgets. Then what a key press in
-/// the last field of the largest page takes, until it is painted.
+/// The panels of each section from the smallest count to the largest and back, beside a plain loop
+/// that makes the same widgets. Then, in the running program with the largest project, what a key
+/// press takes until it is painted, and the switch from Section 5 to Section 6.
 namespace quillford {
 
 namespace {
 
 constexpr double MostTimesBare = 2;
-constexpr double MostMilliseconds = 16;
-constexpr int Keys = 2000;
+constexpr double MostMillisecondsOfKey = 16;
+constexpr double MostMillisecondsOfSwitch = 100;
 
-/// The pages ask nothing here.
-class NoPrompts final : public UserPrompts {
-public:
-    void showMessage(Icon, const QString&, const QString&) override { unasked(); }
-
-    bool askYesNo(Icon, const QString&, const QString&) override { return unasked(), false; }
-
-    Answer askYesNoCancel(Icon, const QString&, const QString&) override {
-        return unasked(), Answer::Cancel;
-    }
-
-    QString chooseFileToOpen(const FileQuestion&) override { return unasked(), QString(); }
-
-    QString chooseFileToSave(const FileQuestion&) override { return unasked(), QString(); }
-
-    bool showMsgWindow(const NotAgainChanged&) override { return unasked(), false; }
-
-    void showTab4MsgWindow(const NotAgainChanged&) override { unasked(); }
-
-    ExportChoice showExportToFileMsgWindow(bool) override { return unasked(), ExportChoice(); }
-
-private:
-    static void unasked() { throw std::logic_error("a page asked something"); }
-};
-
-/// Shows in a control whatever its field becomes, as the program does.
-class Shown final : public FieldObserver {
-public:
-    explicit Shown(BoundFields& bound) : bound_(bound) {}
-
-    void fieldChanged(FieldId field, int index) override { bound_.showText({field, index}); }
-
-private:
-    BoundFields& bound_;
-};
-
-/// A window with a page for a new project.
-template <typename Page>
-struct ShownPage {
-    template <typename... Rest>
-    explicit ShownPage(Rest&&... rest) : page(panel, fields, bound, order, rest...) {
-        fields.setObserver(&shown);
-        panel.show();
-        QApplication::setActiveWindow(&panel);
-        QCoreApplication::processEvents();
-    }
-
-    ~ShownPage() { fields.setObserver(nullptr); }
-
-    ShownPage(const ShownPage&) = delete;
-    ShownPage& operator=(const ShownPage&) = delete;
-
-    QWidget panel;
-    ProjectFields fields;
-    BoundFields bound{fields};
-    Shown shown{bound};
-    FocusOrder order;
-    Page page;
-};
-
-/// At once, and not at the next beat of the screen, which would fall on either side by chance.
-void paint(QWidget& widget) {
-    QCoreApplication::processEvents();
-    widget.repaint();
+const char* verdict(bool met) {
+    return met ? "met" : "missed";
 }
 
-template <typename Page>
-void benchCounts(const char* what, ShownPage<Page>& ours, void (Page::*layOut)(int), int most) {
-    QWidget window;
-    window.resize(ours.panel.size());
-    window.show();
-    (ours.page.*layOut)(most);
+/// Paints what has changed, and destroys what was left for later.
+void settle() {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// A column of panels and how it is laid out.
+struct Column {
+    const char* name;
+    int tab;
+    int most;
+    QStringView panel;
+    void (EditorColumns::*lay)(int);
+};
+
+constexpr Column Columns[] = {
+    {"inventors", 1, 8, u"picInventors", &EditorColumns::LayoutInventors},
+    {"objects", 2, 20, u"frmObjectsNum", &EditorColumns::LayoutObjects},
+    {"figures", 3, 50, u"picFigures", &EditorColumns::LayoutFigures},
+    {"Main Elements", 4, 15, u"picElement", &EditorColumns::LayoutMainElements},
+    {"Sub-Elements", 5, 15, u"picElementUsers", &EditorColumns::LayoutSubElements},
+    {"descriptions", 6, 15, u"picfrmMainElementDes", &EditorColumns::LayoutDescriptions},
+};
+
+void benchColumn(const Column& column) {
+    EditorPages pages;
+    QWidget& container = pages.form().panel(column.tab);
+    container.setEnabled(true);
+    container.raise();
+    const auto lay = [&](int count) {
+        (pages.columns().*column.lay)(count);
+        settle();
+    };
+    lay(column.most);
+    QList<QWidget*> panels;
+    for (int i = 0; i < column.most; ++i)
+        panels.append(pages.form().findChild<QWidget*>(controlName(column.panel, i)));
+    BareWidgets bare(panels);
+    lay(1);
+    EditorPages around;
+    QWidget& bareContainer = around.form().panel(column.tab);
+    bareContainer.setEnabled(true);
+    bareContainer.raise();
+    QWidget view(&bareContainer);
+    view.setGeometry(panels.first()->parentWidget()->geometry());
+    view.show();
     const PairedTimes times = measuredInTurns(
         [&] {
-            (ours.page.*layOut)(1);
-            (ours.page.*layOut)(most);
-            paint(ours.panel);
+            lay(column.most);
+            lay(1);
         },
         [&] {
-            const QWidget& original = ours.page.column().panel(most - 1);
-            std::vector<std::unique_ptr<QWidget>> panels;
-            for (int i = 1; i < most; ++i) {
-                panels.push_back(bareCopy(original, window));
-                panels.back()->move(0, i * original.height());
-                panels.back()->show();
-            }
-            paint(window);
-        });
-    std::printf("%-26s %-14s %10.2f %10.2f %6.2f  at most %.1f, %s\n", what, "page / bare",
-                times.ours / 1000, times.peer / 1000, times.ratio(), MostTimesBare,
-                times.ratio() <= MostTimesBare ? "met" : "missed");
+            bare.make(view);
+            settle();
+            bare.drop();
+            settle();
+        },
+        10);
+    std::printf("%-14s %5d %8lld %12.1f %12.1f %7.2f  at most %.1f, %s %6d\n", column.name,
+                column.most, static_cast<long long>(bare.count()), times.ours / 1000,
+                times.peer / 1000, times.ratio(), MostTimesBare,
+                verdict(times.ratio() <= MostTimesBare), times.runs);
 }
 
-template <typename Page>
-void benchKeys(ShownPage<Page>& ours, FieldPlace last) {
-    QWidget* field = ours.bound.control(last);
-    field->setFocus(Qt::TabFocusReason);
-    QCoreApplication::processEvents();
+void benchColumns() {
+    std::printf("%-14s %5s %8s %12s %12s %7s  %-16s %6s\n", "panels", "1 to", "widgets",
+                "ours [ms]", "bare [ms]", "ratio", "aim", "runs");
+    for (const Column& column : Columns)
+        benchColumn(column);
+}
+
+/// The running program with the largest project, in which no message window comes up.
+class LargestProgram {
+public:
+    LargestProgram() {
+        const QString file = folder_.filePath(QStringLiteral("largest.ivd"));
+        Project largest;
+        readProject(benchProjects(folder_.path()).constLast().path, largest);
+        ProjectWriter(largest).write(file, ProjectWriter::Durability::Flushed);
+        LinuxFolders folders;
+        FileSettingsStore store(folders.configurationFolder() + QStringLiteral("/settings"));
+        Settings settings(store);
+        settings.setFlag(settingsNames::ShowMsgTab, true);
+        settings.setFlag(settingsNames::ShowMsgFigure, true);
+        if (!program_.start({file}))
+            throw Error(0, QStringLiteral("the program has ended at its start"), file);
+        form().activateWindow();
+        settle();
+    }
+
+    [[nodiscard]] QWidget& form() { return program_.window()->form(); }
+
+    template <typename Control = QWidget>
+    [[nodiscard]] Control& control(const QString& name) {
+        auto* const found = form().findChild<Control*>(name);
+        if (!found)
+            throw Error(0, QStringLiteral("there is no such control"), name);
+        return *found;
+    }
+
+    void clickTab(int tab) {
+        QTest::mouseClick(&control(controlName(u"picTab", tab)), Qt::LeftButton);
+        settle();
+    }
+
+    /// Chooses a number of Main Elements as the list does, and waits for the layout.
+    void chooseElements(int count) {
+        auto& list = control<FormCombo>(QStringLiteral("cboMainElementNum"));
+        list.setCurrentIndex(count - 1);
+        Q_EMIT list.activated(count - 1);
+        QTest::qWait(20);
+        settle();
+    }
+
+private:
+    QTemporaryDir folder_;
+    Program program_;
+};
+
+double millisecondsOf(const std::function<void()>& run) {
+    QElapsedTimer time;
+    time.start();
+    run();
+    return static_cast<double>(time.nsecsElapsed()) / 1e6;
+}
+
+/// Three times in milliseconds, and the verdict on one of them.
+void print(const char* what, std::vector<double> times, double decisive, double most) {
+    std::sort(times.begin(), times.end());
+    const auto share = [&](double part) {
+        return times[static_cast<std::size_t>(static_cast<double>(times.size() - 1) * part)];
+    };
+    const double time = share(decisive);
+    std::printf("%-44s %10.2f %10.2f %10.2f  below %.0f, %s %6zu\n", what, share(0.5), share(0.99),
+                times.back(), most, verdict(time < most), times.size());
+}
+
+void benchKeys(LargestProgram& program, int tab, const QString& name) {
+    constexpr int Keys = 500;
+    program.clickTab(tab);
+    QWidget& field = program.control(name);
+    field.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&field, Qt::Key_End, Qt::ControlModifier);
+    settle();
     std::vector<double> times;
     for (int i = 0; i < Keys; ++i) {
-        QElapsedTimer time;
-        time.start();
-        QKeyEvent press(QEvent::KeyPress, i % 6 == 5 ? Qt::Key_Space : Qt::Key_A, Qt::NoModifier,
-                        i % 6 == 5 ? QStringLiteral(" ") : QStringLiteral("a"));
-        QCoreApplication::sendEvent(field, &press);
-        paint(*field);
-        times.push_back(static_cast<double>(time.nsecsElapsed()) / 1e6);
+        const bool endsWord = i % 6 == 5;
+        times.push_back(millisecondsOf([&] {
+            QTest::keyClick(&field, endsWord ? Qt::Key_Space : Qt::Key_A);
+            settle();
+        }));
     }
-    std::sort(times.begin(), times.end());
-    if (ours.fields.at(last.field, last.index).text().size() != Keys)
-        throw Error(0, QStringLiteral("keys were lost"), controlName(last));
-    const double p99 = times[Keys * 99 / 100];
-    std::printf("%-26s %-14s %10.2f %10.2f         below %.0f, %s\n", qPrintable(controlName(last)),
-                "a key press", times[Keys / 2], p99, MostMilliseconds,
-                p99 < MostMilliseconds ? "met" : "missed");
+    print(qPrintable(QStringLiteral("a key press in ") + name), times, 0.99, MostMillisecondsOfKey);
 }
 
-void benchAll() {
-    NoPrompts prompts;
-    QtPictureReader pictures;
-    ShownPage<PageInventors> inventors;
-    ShownPage<PageObjects> objects;
-    ShownPage<PageFigures> figures(PageFigures::Desktop{pictures, pictures, prompts});
-    figures.fields.cboFiguresNum.setText(QStringLiteral("50"));
-    std::printf("%-26s %-14s %10s %10s %6s  %s\n", "panels, 1 to most and back", "ours / peer",
-                "ours [ms]", "peer [ms]", "ratio", "aim");
-    benchCounts("inventors, 8", inventors, &PageInventors::LayoutInventors, 8);
-    benchCounts("objects, 20", objects, &PageObjects::LayoutObjects, 20);
-    benchCounts("figures, 50", figures, &PageFigures::LayoutFigures, 50);
-    std::printf("\n%-26s %-14s %10s %10s\n", "the last field", "", "median[ms]", "p99 [ms]");
-    benchKeys(inventors, {FieldId::txtCityStep2, 7});
-    benchKeys(objects, {FieldId::txtObject, 19});
-    benchKeys(figures, {FieldId::txtFigureDetail, 49});
+void benchSwitch(LargestProgram& program) {
+    constexpr int Switches = 50;
+    program.clickTab(4);
+    std::vector<double> standing;
+    for (int i = 0; i < Switches; ++i) {
+        standing.push_back(millisecondsOf([&] { program.clickTab(5); }));
+        program.clickTab(4);
+    }
+    print("from Section 5 to 6, 15 elements", standing, 1, MostMillisecondsOfSwitch);
+    std::vector<double> making;
+    for (int i = 0; i < Switches; ++i) {
+        program.chooseElements(1);
+        program.clickTab(5);
+        program.clickTab(4);
+        program.chooseElements(15);
+        making.push_back(millisecondsOf([&] { program.clickTab(5); }));
+        program.clickTab(4);
+    }
+    print("the same, after 1 element became 15", making, 1, MostMillisecondsOfSwitch);
+}
+
+void benchProgram() {
+    LargestProgram program;
+    std::printf("\n%-44s %10s %10s %10s  %-17s %6s\n", "the largest project", "median[ms]",
+                "p99 [ms]", "worst [ms]", "aim", "runs");
+    benchKeys(program, 3, QStringLiteral("txtFigureDetail(49)"));
+    benchKeys(program, 4, QStringLiteral("txtElementDes(14)"));
+    benchKeys(program, 5, QStringLiteral("txtElementSub9(14)"));
+    benchKeys(program, 6, QStringLiteral("txtDesAlterative"));
+    benchKeys(program, 7, QStringLiteral("txtOperation"));
+    benchSwitch(program);
 }
 
 } // namespace
@@ -168,11 +228,18 @@ void benchAll() {
 } // namespace quillford
 
 int main(int argc, char** argv) {
+    const QTemporaryDir home;
+    // The user's own settings and files stay out of it.
+    qputenv("HOME", home.path().toUtf8());
+    for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "Temp"})
+        qunsetenv(variable);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QUILLFORD_TIME_SCALE", "0");
     QApplication application(argc, argv);
     quillford::theme::apply(application);
     try {
-        quillford::benchAll();
+        quillford::benchColumns();
+        quillford::benchProgram();
     } catch (const quillford::Error& error) {
         std::fprintf(stderr, "bench_editors: %s: %s\n", qPrintable(error.source()),
                      qPrintable(error.description()));

@@ -61,3 +61,13 @@ function(quillford_program name)
   endif()
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${folder}")
 endfunction()
+
+# quillford_runs_the_program(NAME): the tool NAME runs the wizard within itself, which looks for its
+# help and its dictionary beside the program: links lead there.
+function(quillford_runs_the_program name)
+  foreach(part help Dictionary)
+    file(CREATE_LINK
+      "${CMAKE_BINARY_DIR}/Quillford/${part}" "${CMAKE_BINARY_DIR}/tools/${part}" SYMBOLIC)
+  endforeach()
+  add_dependencies(${name} help_pages dictionary)
+endfunction()
