@@ -103,9 +103,8 @@ QImage FiguresPageFixture::preview(int figure) const {
 }
 
 QRect FiguresPageFixture::previewPlace(int figure) const {
-    return control(u"imgFigure", figure)
-        .geometry()
-        .translated(-control(u"shpFigureContain", figure).pos());
+    const QWidget& picture = control(u"imgFigure", figure);
+    return {picture.mapTo(&control(u"shpFigureContain", figure), QPoint()), picture.size()};
 }
 
 QStringList FiguresPageFixture::crowded(const QWidget& panel) {
