@@ -1,84 +1,88 @@
 #include "BareWidgets.h"
 
-#include <QComboBox>
+#include "base/Error.h"
+#include "controls/FormCombo.h"
+#include "controls/FramePanel.h"
+#include "controls/LineField.h"
+#include "controls/Picture.h"
+#include "controls/TextField.h"
+#include "controls/myImageButton.h"
+
 #include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 
 namespace quillford {
 
-BareWidgets::BareWidgets(const QList<QWidget*>& panels) {
-    for (qsizetype i = 1; i < panels.size(); ++i)
-        note(*panels[i], -1);
+namespace {
+
+QWidget* bareCombo(const FormCombo& original, QWidget* parent) {
+    auto* combo = new FormCombo(parent);
+    combo->setTyping(original.isEditable());
+    for (int i = 0; i < original.count(); ++i)
+        combo->addItem(original.itemText(i));
+    return combo;
 }
 
-void BareWidgets::note(const QWidget& widget, qsizetype parent) {
-    Note note{Kind::Widget, parent, widget.geometry(), {}, {}, {}, false, widget.isHidden()};
-    if (auto* label = qobject_cast<const QLabel*>(&widget)) {
-        note.kind = Kind::Label;
-        note.text = label->text();
-        note.picture = label->pixmap(Qt::ReturnByValue);
-    } else if (qobject_cast<const QLineEdit*>(&widget)) {
-        note.kind = Kind::Line;
-    } else if (qobject_cast<const QPlainTextEdit*>(&widget)) {
-        note.kind = Kind::Text;
-    } else if (auto* list = qobject_cast<const QComboBox*>(&widget)) {
-        note.kind = Kind::List;
-        note.takesTyping = list->isEditable();
-        for (int row = 0; row < list->count(); ++row)
-            note.rows.append(list->itemText(row));
-    }
-    const qsizetype self = notes_.size();
-    notes_.append(note);
-    // What the toolkit puts into its own widgets comes by itself.
-    if (note.kind == Kind::Widget)
-        for (const QObject* child : widget.children())
-            if (auto* inner = qobject_cast<const QWidget*>(child))
-                this->note(*inner, self);
+QWidget* barePicture(const Picture& original, QWidget* parent) {
+    auto* picture = new Picture(parent);
+    picture->setFile(original.file());
+    return picture;
 }
 
-QWidget* BareWidgets::makeOne(const Note& note, QWidget* parent) {
-    switch (note.kind) {
-    case Kind::Label: {
-        auto* label = new QLabel(note.text, parent);
-        if (!note.picture.isNull())
-            label->setPixmap(note.picture);
-        return label;
-    }
-    case Kind::Line:
-        return new QLineEdit(parent);
-    case Kind::Text:
-        return new QPlainTextEdit(parent);
-    case Kind::List: {
-        auto* list = new QComboBox(parent);
-        list->setEditable(note.takesTyping);
-        list->addItems(note.rows);
-        return list;
-    }
-    case Kind::Widget:
-        break;
-    }
-    return new QWidget(parent);
+QWidget* bareLabel(const QLabel& original, QWidget* parent) {
+    auto* label = new QLabel(original.text(), parent);
+    label->setWordWrap(original.wordWrap());
+    label->setFont(original.font());
+    label->setPalette(original.palette());
+    return label;
 }
 
-void BareWidgets::make(QWidget& view) {
-    QList<QWidget*> made;
-    for (const Note& note : notes_) {
-        QWidget* widget = makeOne(note, note.parent < 0 ? &view : made[note.parent]);
-        widget->setGeometry(note.place);
-        if (note.hidden)
-            widget->hide();
-        if (note.parent < 0)
-            panels_.append(widget);
-        made.append(widget);
-    }
-    for (QWidget* panel : panels_)
-        panel->show();
+QWidget* bareButton(const myImageButton& original, QWidget* parent) {
+    auto* button = new myImageButton(parent);
+    button->setCaption(original.caption());
+    button->setFilled(original.isFilled());
+    return button;
 }
 
-void BareWidgets::drop() {
-    while (!panels_.isEmpty())
-        delete panels_.takeLast();
+QWidget* bareWidget(const QWidget& original, QWidget* parent) {
+    if (const auto* combo = qobject_cast<const FormCombo*>(&original))
+        return bareCombo(*combo, parent);
+    if (const auto* picture = qobject_cast<const Picture*>(&original))
+        return barePicture(*picture, parent);
+    if (const auto* button = qobject_cast<const myImageButton*>(&original))
+        return bareButton(*button, parent);
+    if (qobject_cast<const LineField*>(&original))
+        return new LineField(parent);
+    if (qobject_cast<const TextField*>(&original))
+        return new TextField(parent);
+    if (qobject_cast<const FramePanel*>(&original))
+        return new FramePanel(parent);
+    if (const auto* label = qobject_cast<const QLabel*>(&original))
+        return bareLabel(*label, parent);
+    return nullptr;
+}
+
+/// The children that a form has placed; what a control has made for itself comes with the control.
+void copyChildren(const QWidget& original, QWidget& copy) {
+    for (const QWidget* child :
+         original.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        QWidget* made = bareWidget(*child, &copy);
+        const bool isGround = !made && child->metaObject() == &QWidget::staticMetaObject;
+        if (isGround)
+            copyChildren(*child, *(made = new QWidget(&copy)));
+        if (!made)
+            throw Error(0, QString::fromUtf8(child->metaObject()->className()),
+                        QStringLiteral("a bare copy"));
+        made->setGeometry(child->geometry());
+    }
+}
+
+} // namespace
+
+std::unique_ptr<QWidget> bareCopy(const QWidget& original, QWidget& parent) {
+    auto copy = std::make_unique<QWidget>(&parent);
+    copy->setGeometry(original.geometry());
+    copyChildren(original, *copy);
+    return copy;
 }
 
 } // namespace quillford
