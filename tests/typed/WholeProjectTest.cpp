@@ -6,6 +6,7 @@
 #include "typed/ProjectTypist.h"
 
 #include <QCryptographicHash>
+#include <QTextEdit>
 
 using namespace quillford;
 using namespace Qt::Literals::StringLiterals;
@@ -137,4 +138,7 @@ TEST_F(WholeProject, typed_in_through_all_sections_completes_them_and_shows_the_
     for (int tab = 0; tab <= 8; ++tab)
         EXPECT_TRUE(isMarkedComplete(tab)) << tab;
     EXPECT_TRUE(user->control(u"imgCreateToFile(1)"_s).isEnabled());
+    const QString draft = user->control<QTextEdit>(u"webPreview"_s).toPlainText();
+    for (const QString& part : {told.fields.txtInventionTitle.text(), u"tilting mast 40"_s})
+        EXPECT_TRUE(draft.contains(part, Qt::CaseInsensitive)) << qPrintable(part);
 }
