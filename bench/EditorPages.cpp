@@ -4,7 +4,7 @@
 
 namespace quillford {
 
-EditorPages::EditorPages() : form_(QString(), order_), bound_(fields_), columns_(makePages()) {
+EditorPages::EditorPages() : form_(QString(), order_), bound_(fields_), columns_(makePages(), bound_) {
     form_.welcome().hide();
     form_.show();
 }
