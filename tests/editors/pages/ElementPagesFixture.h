@@ -116,6 +116,8 @@ protected:
 
     void removePicture(int) override { FAIL() << "not one of these sections"; }
 
+    void bringIntoView(FieldId, int) override { FAIL() << "not one of these sections"; }
+
     void showPicture(int) override { FAIL() << "not one of these sections"; }
 
     Project project;
