@@ -82,7 +82,8 @@ RecentProjects::RecentProjects(Settings& settings, const Project& project)
     : settings_(settings), project_(project) {}
 
 QString RecentProjects::menuCaption(int number) const {
-    return QStringLiteral("&%1 - ").arg(number) + rows_.at(number - 1).menuName;
+    QString name = rows_.at(number - 1).menuName;
+    return QStringLiteral("&%1 - ").arg(number) + name.replace(u'&', QStringLiteral("&&"));
 }
 
 const QString& RecentProjects::labelCaption(int number) const {

@@ -37,8 +37,8 @@ public:
     /// How many rows are shown; they are numbered from 1.
     [[nodiscard]] int rowCount() const { return static_cast<int>(rows_.size()); }
 
-    /// The text of `mnuFileRecent(number)`, "&1 - easel"; an "&" of the file's name stands in it as
-    /// it is. `number` is 1 to `rowCount()`, as in the two calls below.
+    /// The text of `mnuFileRecent(number)`, "&1 - easel"; an "&" of the file's name is doubled, so
+    /// that a menu shows it. `number` is 1 to `rowCount()`, as in the two calls below.
     [[nodiscard]] QString menuCaption(int number) const;
 
     /// The text of `lblRecentPatents(number)`.

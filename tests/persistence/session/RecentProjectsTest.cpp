@@ -96,6 +96,12 @@ TEST_F(RecentProjectsTest, a_project_without_number_or_title_shows_its_file_name
     EXPECT_EQ(menu(), QStringList({u"&1 - Test"_s, u"&2 - Test 2"_s, u"&3 - Project - 7"_s}));
 }
 
+TEST_F(RecentProjectsTest, a_menu_shows_the_ampersands_of_a_name) {
+    start({u"/p/R&D & more.ivd||"_s});
+    EXPECT_EQ(menu(), QStringList({u"&1 - R&&D && more"_s}));
+    EXPECT_EQ(labels(), QStringList({u"Project - R&D & more"_s}));
+}
+
 TEST_F(RecentProjectsTest, an_entry_of_a_path_alone_has_no_label) {
     start({u"C:\\p\\Test.ivd"_s});
     EXPECT_EQ(labels(), QStringList({QString()}));
