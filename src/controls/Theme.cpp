@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPalette>
+#include <QTextDocument>
 #include <QWidget>
 
 #include <algorithm>
@@ -67,6 +68,10 @@ void makeHeadings(QWidget& form, std::initializer_list<QStringView> names) {
         if (std::find(names.begin(), names.end(), name) != names.end())
             makeHeading(*label);
     }
+}
+
+void setPlainToolTip(QWidget& control, const QString& text) {
+    control.setToolTip(Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
 }
 
 void colour(QWidget& widget, const QColor& colour) {

@@ -35,6 +35,9 @@ inline constexpr int FieldPixels = 12;   ///< what the user types
 [[nodiscard]] QFont headingFont();
 [[nodiscard]] QFont fieldFont();
 
+/// Gives a control a tip that shows the text as it stands, also where it looks like markup.
+void setPlainToolTip(QWidget& control, const QString& text);
+
 /// Makes a label a heading: bold, in the headings' colour.
 void makeHeading(QLabel& label);
 

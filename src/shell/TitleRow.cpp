@@ -26,7 +26,7 @@ void TitleRow::setCaption(const QString& caption) {
     form_.setWindowTitle(caption);
     caption_->setText(
         caption_->fontMetrics().elidedText(caption, Qt::ElideMiddle, caption_->width()));
-    caption_->setToolTip(caption);
+    theme::setPlainToolTip(*caption_, caption);
 }
 
 void TitleRow::showTitleInvention(const QString& caption) {

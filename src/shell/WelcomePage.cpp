@@ -73,7 +73,7 @@ void WelcomePage::setRecentProjects(const QList<QString>& captions) {
         ClickLabel& row = *rows_[i + 1];
         row.setText(row.fontMetrics().elidedText(captions[i], Qt::ElideMiddle, row.width()));
         row.setAccessibleName(captions[i]);
-        row.setToolTip(captions[i]);
+        theme::setPlainToolTip(row, captions[i]);
     }
     more_->move(more_->x(), FirstRowTop + static_cast<int>(captions.size()) * RowPitch);
 }
