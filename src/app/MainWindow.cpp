@@ -46,6 +46,7 @@ SectionColumns::Pages makePages(frmMain1& form, ProjectFields& fields, BoundFiel
 MainWindow::MainWindow(Project& project, mdlSystem& system, Settings& settings,
                        UserPrompts& prompts, const Ports& ports)
     : project_(project),
+      system_(system),
       form_(system.appFolder, focusOrder_),
       fileEntries_(new FileMenuEntries(form_.menus().file())),
       tmrAutoSave_(new QTimer(&form_)),
@@ -123,8 +124,10 @@ void MainWindow::joinNavigation() {
                      [this] { files_.commands().mnuFileOpen_Click(); });
     QObject::connect(&form_.welcome(), &WelcomePage::recentWanted, &form_,
                      [this](int row) { files_.commands().lblRecentPatents_Click(row); });
-    QObject::connect(&form_, &frmMain1::closing, &form_,
-                     [this](bool& refuse) { refuse = !files_.commands().queryUnload(); });
+    QObject::connect(&form_, &frmMain1::closing, &form_, [this](bool& refuse) {
+        system_.exiting = files_.commands().queryUnload();
+        refuse = !system_.exiting;
+    });
 }
 
 void MainWindow::joinMenus() {

@@ -47,6 +47,7 @@ private:
     void joinRecentProjects();
 
     Project& project_;
+    mdlSystem& system_;
     FocusOrder focusOrder_;
     frmMain1 form_;
     FileMenu fileMenu_;
