@@ -3,6 +3,8 @@
 #include "core/wizard/FocusOrder.h"
 #include "shell/MainMenus.h"
 
+#include <utility>
+
 namespace quillford {
 
 FileMenuEntries::FileMenuEntries(QMenu& menu) : QObject(&menu), menu_(menu) {
@@ -23,14 +25,21 @@ FileMenuEntries::FileMenuEntries(QMenu& menu) : QObject(&menu), menu_(menu) {
     menu_.addSeparator();
     draft_.append(add(QStringLiteral("mnuFilePrint"), QStringLiteral("Print Final Draft"),
                       &FileMenuEntries::mnuFilePrint_Click));
-    menu_.addSeparator();
-    afterRecent_ = menu_.addSeparator();
+    recentLines_ = {addLine(QStringLiteral("mnuFileLine4")),
+                    addLine(controlName(u"mnuFileRecent", 0))};
     project_.append(add(QStringLiteral("mnuGotoWelcomePage"),
                         QStringLiteral("Go to Welcome Page (Close Project)"),
                         &FileMenuEntries::mnuGotoWelcomePage_Click));
     menu_.addSeparator();
     add(QStringLiteral("mnuFileExit"), QStringLiteral("E&xit"),
         &FileMenuEntries::mnuFileExit_Click);
+}
+
+QAction* FileMenuEntries::addLine(const QString& name) {
+    QAction* line = menu_.addSeparator();
+    line->setObjectName(name);
+    line->setVisible(false);
+    return line;
 }
 
 QAction* FileMenuEntries::add(const QString& name, const QString& caption, Clicked clicked) {
@@ -47,17 +56,23 @@ void FileMenuEntries::enable(const FileMenu& state) {
 }
 
 void FileMenuEntries::setRecentProjects(const QStringList& captions) {
-    qDeleteAll(recent_);
-    recent_.clear();
+    // The list may change by what one of its rows has started.
+    for (QAction* entry : std::exchange(recent_, {})) {
+        menu_.removeAction(entry);
+        entry->setObjectName(QString());
+        entry->deleteLater();
+    }
     for (const QString& caption : captions) {
         const int index = static_cast<int>(recent_.size()) + 1;
         auto* entry = new QAction(caption, &menu_);
         entry->setObjectName(controlName(u"mnuFileRecent", index));
         connect(entry, &QAction::triggered, this,
                 [this, index] { Q_EMIT mnuFileRecent_Click(index); });
-        menu_.insertAction(afterRecent_, entry);
+        menu_.insertAction(recentLines_.last(), entry);
         recent_.append(entry);
     }
+    for (QAction* line : std::as_const(recentLines_))
+        line->setVisible(!recent_.isEmpty());
 }
 
 } // namespace quillford

@@ -39,11 +39,12 @@ private:
     using Clicked = void (FileMenuEntries::*)();
 
     QAction* add(const QString& name, const QString& caption, Clicked clicked);
+    QAction* addLine(const QString& name);
 
     QMenu& menu_;
-    QList<QAction*> project_; ///< enabled while a project is shown
-    QList<QAction*> draft_;   ///< enabled while all sections are complete
-    QAction* afterRecent_;    ///< the line below the recent projects
+    QList<QAction*> project_;     ///< enabled while a project is shown
+    QList<QAction*> draft_;       ///< enabled while all sections are complete
+    QList<QAction*> recentLines_; ///< above and below the recent projects, shown with the first
     QList<QAction*> recent_;
 };
 
