@@ -43,11 +43,12 @@ void NewProject::NewFile() {
     clearFigures();
     forgetFile();
     project_.state.resetting = true;
-    screen_.index.clearIndex();
     store_.resetRecentCounters();
     layOutPanels();
     setDefaults();
     emptyTexts();
+    // The layout has drawn the names of the old project once more.
+    screen_.index.clearIndex();
     Pause(1, clock_, system_);
     rules_.forgetVerdicts();
     project_.state.saveFlag = false;

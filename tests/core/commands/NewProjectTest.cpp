@@ -72,7 +72,6 @@ TEST_F(NewProjectTest, takes_its_steps_in_order) {
                                                                           "blank preview",
                                                                           "remove picture 0",
                                                                           "remove picture 1",
-                                                                          "clear index",
                                                                           "reset recent counters",
                                                                           "LayoutInventors 1",
                                                                           "LayoutObjects 4",
@@ -83,6 +82,7 @@ TEST_F(NewProjectTest, takes_its_steps_in_order) {
                                                                           "remove picture 0",
                                                                           "whiten all",
                                                                           "title line: ",
+                                                                          "clear index",
                                                                           "wait",
                                                                           "tab 0 looks incomplete",
                                                                           "tab 1 looks incomplete",
@@ -115,6 +115,13 @@ TEST_F(NewProjectTest, leaves_the_fields_of_a_new_project) {
     }
     for (const FieldGroup group : RepeatingGroups)
         EXPECT_EQ(project.fields.panelCount(group), fresh.panelCount(group));
+}
+
+TEST_F(NewProjectTest, the_index_is_emptied_after_the_last_layout_that_draws_it) {
+    work();
+    newProject.NewFile();
+    EXPECT_GT(log.find("clear index"), log.find("LayoutMainElements 3"));
+    EXPECT_GT(log.find("clear index"), log.find("whiten all"));
 }
 
 TEST_F(NewProjectTest, sets_the_named_defaults) {
@@ -167,7 +174,7 @@ TEST_F(NewProjectTest, forgets_every_file_of_the_old_project_at_once) {
     EXPECT_EQ(project.state.projectFileName, u"");
 }
 
-TEST_F(NewProjectTest, is_resetting_from_the_index_to_the_new_looks) {
+TEST_F(NewProjectTest, is_resetting_from_the_counters_to_the_new_looks) {
     work();
     Calls resetting;
     log.during = [&](const std::string& call) {
@@ -175,7 +182,7 @@ TEST_F(NewProjectTest, is_resetting_from_the_index_to_the_new_looks) {
             resetting.push_back(call);
     };
     newProject.NewFile();
-    EXPECT_EQ(resetting, callsBetween("clear index", "tab 9 looks incomplete"));
+    EXPECT_EQ(resetting, callsBetween("reset recent counters", "tab 9 looks incomplete"));
     EXPECT_FALSE(project.state.resetting);
 }
 
