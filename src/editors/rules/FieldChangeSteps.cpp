@@ -35,7 +35,7 @@ void FieldChangeSteps::fieldChanged(FieldId field, int index) {
     const FieldPlace place{field, index};
     screen_.showText(place);
     if (state_.resetting)
-        return;
+        return showSentence(place);
     mirror(place);
     // Nobody chooses a state that is loaded.
     if (!isStateList(field) || state_.isLoading)
@@ -52,7 +52,9 @@ void FieldChangeSteps::clicked(FieldPlace place) {
 void FieldChangeSteps::focusLost(FieldPlace place) {
     if (place.field == FieldId::cboStateStep1)
         contact_.cboStateStep1_LostFocus();
+    // A panel that is taken off the screen loses the focus, and its fields may be gone before it.
     if (fieldRow(place.field).group == FieldGroup::SubElements &&
+        place.index < fields_.count(place.field) &&
         fields_.at(place.field, place.index).isChanged())
         index_.RebuildElementIndex();
 }
@@ -93,10 +95,15 @@ void FieldChangeSteps::extra(FieldPlace place) {
     if (place.field == FieldId::txtFileNo || place.field == FieldId::txtInventionTitle)
         title_.showTitleInvention(titleInventionCaption(
             fields_.txtFileNo.text(), fields_.txtInventionTitle.text(), measure_));
-    if (place.field == FieldId::cboFigureType)
-        screen_.showFigureSentence(place.index);
+    showSentence(place);
     if (place.field == FieldId::chkSameAsContact)
         contact_.chkSameAsContact_Click();
+}
+
+/// The article of the sentence goes by the view that is shown.
+void FieldChangeSteps::showSentence(FieldPlace place) {
+    if (place.field == FieldId::cboFigureType)
+        screen_.showFigureSentence(place.index);
 }
 
 bool isWorthSpelling(QStringView text) noexcept {

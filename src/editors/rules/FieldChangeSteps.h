@@ -20,15 +20,16 @@ public:
                      FieldScreen& screen, TitleLine& title, ElementIndexView& index,
                      const TextMeasure& measure);
 
-    /// While fields are cleared for a new project they are shown, and nothing else follows. While a
-    /// project is loaded no field changes but the one that is read.
+    /// While fields are cleared for a new project they are shown, a view with its sentence,
+    /// and nothing else follows. While a project is loaded no field changes but the one that is
+    /// read.
     void fieldChanged(FieldId field, int index) override;
 
     /// A row of a list was chosen, also the one that stood already. Comes after the change, if the
     /// text has changed. A state follows a choice where others follow every change.
     void clicked(FieldPlace place);
 
-    /// The focus has left a field.
+    /// The focus has left a field, or the control of one that is gone already.
     void focusLost(FieldPlace place);
 
 private:
@@ -37,6 +38,7 @@ private:
     void whiten(FieldPlace place);
     void spell(FieldPlace place);
     void extra(FieldPlace place);
+    void showSentence(FieldPlace place);
 
     ProjectFields& fields_;
     const ProjectState& state_;

@@ -113,6 +113,15 @@ TEST_F(PageSubElementsTest, the_index_shows_a_sub_element_when_its_field_is_left
     EXPECT_EQ(indexText(), u"14: Pin"_s);
 }
 
+TEST_F(PageSubElementsTest, a_block_may_have_the_focus_when_a_project_with_fewer_is_read) {
+    go(SubElementsTab);
+    type(u"txtElementSub3(2)"_s, u"pin"_s);
+    ASSERT_TRUE(control(u"txtElementSub3(2)"_s).hasFocus());
+    fields.setPanelCount(FieldGroup::SubElements, 1);
+    LayoutSubElements(1);
+    EXPECT_FALSE(exists(u"txtElementSub3(2)"_s));
+}
+
 TEST_F(PageSubElementsTest, the_tab_key_brings_a_field_below_the_view_into_it) {
     enterWith(4);
     tabTo(u"txtElementSub9(2)"_s);

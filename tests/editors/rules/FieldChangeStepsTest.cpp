@@ -205,6 +205,13 @@ TEST_F(FieldChangeStepsTest, while_a_new_project_is_made_changes_are_shown_and_n
     EXPECT_EQ(callsOf(fields.txtFileNo, u"QF 1"_s), Calls({"show txtFileNo"}));
 }
 
+TEST_F(FieldChangeStepsTest, a_view_that_is_reset_takes_its_article_along) {
+    fields.cboFigureType(0).setText(u"upper perspective view"_s);
+    state.resetting = true;
+    EXPECT_EQ(callsOf(fields.cboFigureType(0), u"SELECT A VIEW"_s),
+              Calls({"show cboFigureType(0)", "figure sentence 0"}));
+}
+
 TEST_F(FieldChangeStepsTest, a_load_turns_white_and_spells_and_changes_no_other_field) {
     followContact();
     fields.txtElementMain(0).setText(u"hinge"_s);
