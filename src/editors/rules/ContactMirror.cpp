@@ -51,6 +51,9 @@ void ContactMirror::chkSameAsContact_Click() {
 }
 
 void ContactMirror::cboStateStep1_LostFocus() {
+    // A project that is opened takes the focus away, and brings an inventor of its own.
+    if (state_.commandsRunning > 0)
+        return;
     passOn(cboStateStep2, fields_.cboStateStep1.text());
 }
 

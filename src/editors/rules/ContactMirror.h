@@ -25,7 +25,7 @@ public:
     void chkSameAsContact_Click();
 
     /// The state of the contact always passes to the first inventor when it loses the focus, also
-    /// while the box is not checked.
+    /// while the box is not checked. While a command is at work it is not the user who leaves.
     void cboStateStep1_LostFocus();
 
 private:

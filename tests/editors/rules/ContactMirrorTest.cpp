@@ -200,6 +200,18 @@ TEST_F(ContactMirrorTest, after_a_load_the_mirror_runs_and_the_box_asks_again) {
     EXPECT_EQ(prompts.boxes.size(), 1U);
 }
 
+TEST_F(ContactMirrorTest, a_state_that_loses_the_focus_to_a_command_is_not_passed_on) {
+    fields.cboStateStep1.setText(u"CA"_s);
+    fields.cboStateStep2(0).setText(u"NY"_s);
+    {
+        const CommandScope opening(state);
+        steps.focusLost({FieldId::cboStateStep1});
+        EXPECT_EQ(fields.cboStateStep2(0).text(), u"NY"_s);
+    }
+    steps.focusLost({FieldId::cboStateStep1});
+    EXPECT_EQ(fields.cboStateStep2(0).text(), u"CA"_s);
+}
+
 TEST_F(ContactMirrorTest, a_mirrored_text_counts_as_changed) {
     followContact();
     fields.txtCityStep2(0).clearChanged();
