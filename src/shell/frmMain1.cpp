@@ -81,7 +81,9 @@ QWidget& frmMain1::index() {
 }
 
 bool frmMain1::focusNextPrevChild(bool next) {
-    QWidget* control = nextByTab(*this, focusOrder_, next);
+    // What lies under the Welcome page is enabled, but nobody sees it.
+    const QWidget& reach = welcome_->page().isVisible() ? welcome_->page() : *this;
+    QWidget* control = nextByTab(reach, focusOrder_, next);
     if (!control)
         return false;
     control->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
