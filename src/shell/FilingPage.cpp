@@ -16,6 +16,7 @@ void fillFilingPage(QWidget& panel) {
         step->setFont(bold);
     theme::makeHeading(*designed.lblTab10_0);
     theme::colour(*designed.lblTab10_22, theme::Star);
+    theme::colour(*designed.lnTab10, theme::Line);
 }
 
 } // namespace quillford

@@ -35,6 +35,7 @@ WelcomePage::WelcomePage(QWidget& form)
     large.setPixelSize(22);
     designed.lblWelcome->setFont(large);
     theme::colour(*designed.lblWelcome, theme::Heading);
+    theme::colour(*designed.lnWelcome, theme::Line);
     for (QLabel* text : {designed.lblWelcomeText, designed.lblWelcomeHelp_0,
                          designed.lblWelcomeService_3, designed.lblWelcomeService_4})
         text->setFont(theme::fieldFont());

@@ -54,12 +54,8 @@ frmMain1::~frmMain1() = default;
 
 void frmMain1::applyTheme() {
     theme::makeHeadings(*this, {u"lblBack", u"lblhelp", u"lblIndexOfElements"});
-    for (const QStringView line : {u"lnBtnStepContainer", u"lnTab1"}) {
-        auto* frame = findChild<QFrame*>(line.toString());
-        frame->setFrameShape(QFrame::HLine);
-        frame->setFrameShadow(QFrame::Plain);
-        theme::colour(*frame, theme::Line);
-    }
+    for (const QStringView line : {u"lnBtnStepContainer", u"lnTab1"})
+        theme::colour(*findChild<QFrame*>(line.toString()), theme::Line);
     for (const QStringView word : {u"lblMin", u"lblClose"}) {
         auto* label = findChild<QLabel*>(word.toString());
         label->setFont(theme::headingFont());
