@@ -114,7 +114,7 @@ private:
 protected:
     BoundFields bound{fields};
     PageFigures page{container_, fields, bound, order, {pictures_, pictures_, prompts}};
-    SectionColumns columns{{nullptr, nullptr, &page, nullptr, nullptr, nullptr}};
+    SectionColumns columns{{nullptr, nullptr, &page, nullptr, nullptr, nullptr}, bound};
     CallLog log;
     RecordingScreen screen{fields, log};
     FieldGuidance guidance{fields, state, bound,

@@ -130,6 +130,8 @@ protected:
 
     void removePicture(int) override { FAIL() << "not one of these sections"; }
 
+    void bringIntoView(FieldId, int) override { FAIL() << "these sections ask for nothing there"; }
+
     Project project;
     ProjectFields& fields = project.fields;
     QList<int> layouts; ///< the counts of all layouts

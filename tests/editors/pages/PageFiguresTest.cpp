@@ -283,6 +283,15 @@ TEST_F(PageFiguresTest, the_view_follows_the_tab_key_to_the_button_browse_but_no
     EXPECT_EQ(vscroll().value(), button.y() + button.height() + 2 * 245 - 344);
 }
 
+TEST_F(PageFiguresTest, a_field_out_of_view_is_brought_into_it_and_one_in_view_stays) {
+    chooseCount(3);
+    columns.bringIntoView(FieldId::cboFigureType, 1);
+    EXPECT_EQ(vscroll().value(), 0);
+    columns.bringIntoView(FieldId::txtFigureDetail, 2);
+    const QRect detail = control(u"txtFigureDetail", 2).geometry();
+    EXPECT_EQ(vscroll().value(), detail.y() + detail.height() + 2 * 245 - 344);
+}
+
 TEST_F(PageFiguresTest, tabbing_into_a_field_in_view_moves_nothing) {
     chooseCount(3);
     tabTo(u"cboFigureType", 1);
