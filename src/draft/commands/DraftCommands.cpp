@@ -71,6 +71,9 @@ void DraftCommands::exportToFile() {
 }
 
 void DraftCommands::choose(ExportFormat format) {
+    // The wait behind the check lets window events through, a second click among them.
+    if (parts_.project.state.commandsRunning > 0)
+        return;
     const CommandScope atWork(parts_.project.state);
     parts_.exportFormat = format;
     if (parts_.project.state.verifyPassed)

@@ -59,6 +59,15 @@ TEST_F(DraftCommandsTest, a_project_that_has_passed_is_exported_at_once) {
     EXPECT_TRUE(clock.waits.empty());
 }
 
+TEST_F(DraftCommandsTest, a_second_export_waits_for_nothing_while_one_is_at_work) {
+    const CommandScope first(state);
+    commands.imgCreateToFile(2);
+    commands.mnuFileExportToHTML();
+    EXPECT_EQ(check.shown, 0);
+    EXPECT_TRUE(prompts.fileQuestions.empty());
+    EXPECT_EQ(exportFormat, ExportFormat::None);
+}
+
 TEST_F(DraftCommandsTest, the_buttons_export_in_their_formats) {
     prompts.filesToSave = {place(u"draft.htm"_s), place(u"draft.doc"_s)};
     commands.imgCreateToFile(2);
