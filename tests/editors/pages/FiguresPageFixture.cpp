@@ -104,7 +104,8 @@ QImage FiguresPageFixture::preview(int figure) const {
 
 QRect FiguresPageFixture::previewPlace(int figure) const {
     const QWidget& picture = control(u"imgFigure", figure);
-    return {picture.mapTo(&control(u"shpFigureContain", figure), QPoint()), picture.size()};
+    const QWidget& square = control(u"shpFigureContain", figure);
+    return {square.mapFromGlobal(picture.mapToGlobal(QPoint())), picture.size()};
 }
 
 QStringList FiguresPageFixture::crowded(const QWidget& panel) {

@@ -130,7 +130,7 @@ protected:
 
     void removePicture(int) override { FAIL() << "not one of these sections"; }
 
-    void bringIntoView(FieldId, int) override { FAIL() << "these sections ask for nothing there"; }
+    void bringIntoView(FieldId, int) override { FAIL() << "not one of these sections"; }
 
     Project project;
     ProjectFields& fields = project.fields;
