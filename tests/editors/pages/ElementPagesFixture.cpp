@@ -3,6 +3,7 @@
 #include "controls/FormCombo.h"
 #include "controls/FramePanel.h"
 
+#include <QTest>
 #include <QApplication>
 #include <QListView>
 #include <QtTest>
@@ -43,7 +44,8 @@ ElementPagesFixture::ElementPagesFixture() {
     navigator =
         std::make_unique<WizardNavigator>(project.state, system, rules, messages, *entry, *all);
     form_.show();
-    QApplication::setActiveWindow(&form_);
+    form_.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form_));
     mainElementLayouts.clear();
 }
 
@@ -104,7 +106,8 @@ void ElementPagesFixture::clickCount(int count) {
     list.view()->setCurrentIndex(list.model()->index(count - 1, 0));
     QTest::keyClick(list.view(), Qt::Key_Return);
     // Without a window manager nobody gives the form its activation back.
-    QApplication::setActiveWindow(&form_);
+    form_.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form_));
 }
 
 void ElementPagesFixture::waitForLayout() {

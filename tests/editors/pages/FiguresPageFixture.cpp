@@ -3,6 +3,7 @@
 #include "controls/FormCombo.h"
 #include "controls/FramePanel.h"
 
+#include <QTest>
 #include <QListView>
 #include <QtTest>
 
@@ -18,7 +19,8 @@ FiguresPageFixture::FiguresPageFixture() {
     order.enterTab(FiguresTab, fields);
     connectSteps();
     form_.show();
-    QApplication::setActiveWindow(&form_);
+    form_.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form_));
 }
 
 FiguresPageFixture::~FiguresPageFixture() {
@@ -54,7 +56,8 @@ void FiguresPageFixture::choose(const QString& name, const QString& row) {
     list.view()->setCurrentIndex(list.model()->index(found, 0));
     QTest::keyClick(list.view(), Qt::Key_Return);
     // Without a window manager nobody gives the form its activation back.
-    QApplication::setActiveWindow(&form_);
+    form_.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form_));
 }
 
 void FiguresPageFixture::clickCount(int count) {
