@@ -1,12 +1,19 @@
-#include "base/Error.h"
 #include "app/Program.h"
+#include "base/Error.h"
 #include "controls/ClickLabel.h"
+#include "controls/FormCombo.h"
+#include "controls/LineField.h"
 #include "controls/Theme.h"
-#include "shell/dialogs/msgWindow.h"
+#include "platform/linux/QtClock.h"
+#include "platform/linux/QtTextMeasure.h"
 #include "shell/dialogs/frmSplash.h"
+#include "shell/dialogs/msgWindow.h"
+#include "verification/dialogs/frmVerify.h"
+#include "verification/dialogs/frmVerifyResult.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextStream>
 #include <QTimer>
@@ -52,7 +59,7 @@ protected:
         if (!dialog)
             return;
         QString name = dialog->windowTitle().toLower().replace(u' ', u'-');
-        name.remove(u'!');
+        name.remove(u'!').remove(u'?');
         album_.take(*dialog, u"dialog-"_s + name);
         dialog->accept();
     }
@@ -60,6 +67,70 @@ protected:
 private:
     Album& album_;
 };
+
+/// Chooses the last row of a list of counts, waits for the layout and scrolls to its end.
+void showLargest(QWidget& form, const QString& count, int bar) {
+    auto* list = form.findChild<FormCombo*>(count);
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_End);
+    QTest::qWait(50);
+    auto* scroll = form.findChild<QScrollBar*>(u"vscroll(%1)"_s.arg(bar));
+    scroll->setValue(scroll->maximum());
+}
+
+void typeInto(QWidget& form, const QString& field, const QString& text) {
+    auto* line = form.findChild<LineField*>(field);
+    line->setFocus();
+    line->selectAll();
+    QTest::keyClicks(line, text);
+}
+
+/// Every section at its largest count, scrolled to the end, with the shortest and a long name.
+void takeLargest(Album& album, QWidget& form) {
+    click(form, u"picTab(1)"_s);
+    showLargest(form, u"cboInventorsNum"_s, 0);
+    album.take(form, u"largest-2-inventors"_s);
+    click(form, u"picTab(2)"_s);
+    showLargest(form, u"cboObjectNum"_s, 1);
+    album.take(form, u"largest-3-purpose"_s);
+    click(form, u"picTab(3)"_s);
+    showLargest(form, u"cboFiguresNum"_s, 2);
+    album.take(form, u"largest-4-figures"_s);
+    click(form, u"picTab(4)"_s);
+    showLargest(form, u"cboMainElementNum"_s, 3);
+    typeInto(form, u"txtElementName(13)"_s, u"x"_s);
+    typeInto(form, u"txtElementName(14)"_s, u"long name "_s.repeated(20));
+    album.take(form, u"largest-5-elements"_s);
+    for (const auto& [tab, name] :
+         {std::pair{5, u"largest-6-sub-elements"_s}, std::pair{6, u"largest-7-descriptions"_s}}) {
+        click(form, u"picTab(%1)"_s.arg(tab));
+        auto* scroll = form.findChild<QScrollBar*>(u"vscroll(%1)"_s.arg(tab - 1));
+        scroll->setValue(tab == 5 ? scroll->maximum() : scroll->maximum() - 700);
+        album.take(form, name);
+    }
+}
+
+/// The dialogs that no page brings up by itself.
+void takeDialogs(Album& album, QWidget& form) {
+    QtClock clock;
+    const mdlSystem system;
+    frmSplash splash(clock, system);
+    album.take(splash, u"splash"_s);
+    static_cast<void>(msgWindow(&form).showExportToFileMsgWindow(true));
+    const ProjectFields fields;
+    VerificationState state;
+    static_cast<void>(frmVerify(&form, fields, state, clock, system).ask());
+    const QtTextMeasure measure;
+    const QFont font = QtTextMeasure::font(TextWeight::Regular);
+    static_cast<void>(frmVerifyResult(&form, measure, font).showVerificationSuccessful());
+    MissingLists lists;
+    lists.missingMainElements.add(u"hinged tray"_s, {1, 0});
+    lists.missingSubElements.add(u"carrying strap of a name that goes on for a second line"_s,
+                                 {0, 5});
+    lists.missingNumerals.add(u"15"_s, {0, 5});
+    lists.missingNumerals.add(u"20"_s, {1, 0});
+    static_cast<void>(frmVerifyResult(&form, measure, font).showVerificationErrors(lists));
+}
 
 void takeAll(Album& album, const QStringList& arguments) {
     Program program;
@@ -69,9 +140,9 @@ void takeAll(Album& album, const QStringList& arguments) {
     QWidget& form = program.window()->form();
     album.take(form, u"welcome"_s);
     click(form, u"lblRecentPatents(0)"_s);
-    const QStringList names{u"introduction"_s, u"inventors"_s, u"purpose"_s, u"figures"_s,
-                            u"elements"_s, u"sub-elements"_s, u"descriptions"_s, u"operation"_s,
-                            u"final-draft"_s, u"filing"_s};
+    const QStringList names{u"introduction"_s, u"inventors"_s,    u"purpose"_s,      u"figures"_s,
+                            u"elements"_s,     u"sub-elements"_s, u"descriptions"_s, u"operation"_s,
+                            u"final-draft"_s,  u"filing"_s};
     for (int tab = 0; tab < 9; ++tab) {
         click(form, u"picTab(%1)"_s.arg(tab));
         album.take(form, u"section-%1-%2-empty"_s.arg(tab + 1).arg(names[tab]));
@@ -83,6 +154,8 @@ void takeAll(Album& album, const QStringList& arguments) {
         click(form, u"picTab(%1)"_s.arg(tab));
         album.take(form, u"section-%1-%2"_s.arg(tab + 1).arg(names[tab]));
     }
+    takeDialogs(album, form);
+    takeLargest(album, form);
 }
 
 } // namespace
