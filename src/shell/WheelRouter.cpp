@@ -1,10 +1,12 @@
 #include "shell/WheelRouter.h"
 
+#include "editors/rules/ScrollBarState.h"
+
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QWheelEvent>
 
-#include <algorithm>
+#include <cstdlib>
 
 namespace quillford {
 
@@ -63,7 +65,11 @@ void WheelRouter::turn(int angle) {
         bar = bars_.section();
     if (notches == 0 || !bar || !bar->isVisible() || !bar->isEnabled())
         return;
-    bar->setValue(std::clamp(bar->value() - notches * bar->pageStep(), 0, bar->maximum()));
+    ScrollBarState state{true, bar->value(), bar->maximum(), bar->pageStep()};
+    const WheelNotch notch = notches < 0 ? WheelNotch::Down : WheelNotch::Up;
+    for (int i = 0; i < std::abs(notches); ++i)
+        state.value = valueAfterNotch(state, notch);
+    bar->setValue(state.value);
 }
 
 } // namespace quillford

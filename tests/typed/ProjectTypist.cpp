@@ -27,7 +27,7 @@ void ProjectTypist::typeSection(int section) {
 void ProjectTypist::typeField(const FieldRow& row, int panel) {
     if (row.id == FieldId::txtAttachFig)
         return;
-    const QString name = controlNameOf({row.id, panel});
+    const QString name = controlName(FieldPlace{row.id, panel});
     const QString text = told.fields.at(row.id, panel).text();
     if (user->shown(name) == text)
         return;

@@ -19,6 +19,13 @@ void nameForAssistance(QWidget& control, const FieldRow& row) {
         control.setAccessibleName(row.label.toString());
 }
 
+/// What the text boxes and the lists have in common.
+template <typename Control>
+FieldControl asFieldControl(Control& control) {
+    return {&control, [&control](const QString& text) { control.showText(text); },
+            [&control](bool on) { control.setTint(on); }};
+}
+
 } // namespace
 
 NamedField fieldNamed(const QString& controlName) {
@@ -29,24 +36,14 @@ NamedField fieldNamed(const QString& controlName) {
     return {findFieldRow(match.capturedView(1)), match.capturedView(2).toInt()};
 }
 
-QString controlNameOf(const FieldPlace& place) {
-    const FieldRow& row = fieldRow(place.field);
-    return row.group == FieldGroup::Single ? row.name.toString()
-                                           : controlName(row.name, place.index);
-}
-
 void BoundFields::bind(LineField& control) {
-    FieldBinding& binding =
-        add(control, {&control, [&control](const QString& text) { control.showText(text); },
-                      [&control](bool on) { control.setTint(on); }});
+    FieldBinding& binding = add(control, asFieldControl(control));
     control.setLimit(fieldRow(binding.place().field).limit);
     connect(&control, &LineField::edited, &binding, &FieldBinding::edit);
 }
 
 void BoundFields::bind(TextField& control) {
-    FieldBinding& binding =
-        add(control, {&control, [&control](const QString& text) { control.showText(text); },
-                      [&control](bool on) { control.setTint(on); }});
+    FieldBinding& binding = add(control, asFieldControl(control));
     control.setEnterSwallowed(swallowsEnter(binding.place().field));
     control.setLimit(fieldRow(binding.place().field).limit);
     connect(&control, &TextField::edited, &binding, &FieldBinding::edit);
@@ -56,9 +53,7 @@ void BoundFields::bind(FormCombo& control) {
     const FieldRow& row = *fieldNamed(control.objectName()).row;
     control.setTyping(row.kind == FieldKind::Combo);
     control.addItems(listRows(row.list));
-    FieldBinding& binding =
-        add(control, {&control, [&control](const QString& text) { control.showText(text); },
-                      [&control](bool on) { control.setTint(on); }});
+    FieldBinding& binding = add(control, asFieldControl(control));
     connect(&control, &FormCombo::edited, &binding, &FieldBinding::edit);
     connect(&control, &FormCombo::chosen, &binding, &FieldBinding::choose);
 }
@@ -109,7 +104,7 @@ FieldBinding& BoundFields::add(Control& control, FieldControl as) {
 }
 
 FieldBinding* BoundFields::find(const FieldPlace& place) const {
-    return bindings_.value(controlNameOf(place));
+    return bindings_.value(controlName(place));
 }
 
 QWidget* BoundFields::control(const FieldPlace& place) const {

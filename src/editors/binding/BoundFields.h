@@ -86,7 +86,4 @@ struct NamedField {
 
 [[nodiscard]] NamedField fieldNamed(const QString& controlName);
 
-/// The name of the control of a field.
-[[nodiscard]] QString controlNameOf(const FieldPlace& place);
-
 } // namespace quillford

@@ -5,6 +5,7 @@
 #include "controls/TextField.h"
 #include "controls/Theme.h"
 #include "core/fields/Project.h"
+#include "core/wizard/FocusOrder.h"
 #include "support/PrintQt.h"
 #include "support/RecordingObserver.h"
 
@@ -136,7 +137,7 @@ TEST_F(BoundFieldsTest, a_name_with_an_index_is_a_field_on_that_panel) {
     ASSERT_TRUE(found.row);
     EXPECT_EQ(found.row->id, FieldId::txtElementSub3);
     EXPECT_EQ(found.index, 14);
-    EXPECT_EQ(controlNameOf({FieldId::txtElementSub3, 14}), u"txtElementSub3(14)"_s);
+    EXPECT_EQ(controlName(FieldPlace{FieldId::txtElementSub3, 14}), u"txtElementSub3(14)"_s);
     EXPECT_FALSE(fieldNamed(u"lblObject(1)"_s).row);
 }
 

@@ -39,7 +39,7 @@ protected:
         for (const FieldRow& row : fieldTable())
             for (int i = 0; isInTab(row, tab) && i < fields.count(row.id); ++i)
                 if (fields.at(row.id, i).text() != told(row, i))
-                    typeLines(controlNameOf({row.id, i}), told(row, i));
+                    typeLines(controlName(FieldPlace{row.id, i}), told(row, i));
     }
 
     void typeLines(const QString& name, const QString& text) {
