@@ -9,6 +9,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <csignal>
 
 using namespace quillford;
@@ -61,6 +62,26 @@ protected:
         flat.replace(u"</office:styles>"_s, styles + u"</office:styles>"_s);
         flat.replace(u"</office:text>"_s, items + u"</office:text>"_s);
         writeFile(path(u"lists.fodt"_s), flat.toUtf8());
+    }
+
+    /// The named sockets on which a process listens, each once.
+    [[nodiscard]] static QStringList pipesOf(const QString& process) {
+        QStringList found;
+        const QDir files(u"/proc/%1/fd"_s.arg(process));
+        const QByteArray sockets = contentOf(u"/proc/%1/net/unix"_s.arg(process));
+        for (const QByteArray& line : sockets.split('\n')) {
+            const QByteArrayList columns = line.simplified().split(' ');
+            if (columns.size() < 8)
+                continue;
+            const QString socket = u"socket:[%1]"_s.arg(QString::fromLatin1(columns[6]));
+            const QStringList open = files.entryList(QDir::System | QDir::Files);
+            if (std::any_of(open.begin(), open.end(), [&](const QString& file) {
+                    return QFile::symLinkTarget(files.filePath(file)).endsWith(socket);
+                }))
+                found.append(QString::fromLocal8Bit(columns[7]));
+        }
+        found.removeDuplicates();
+        return found;
     }
 
     /// Sends a signal to the LibreOffice that works in the test's folder.
@@ -166,6 +187,21 @@ TEST_F(LibreOfficeTest, one_that_dies_at_work_makes_every_later_call_an_error) {
     expectNothingIsLeft();
     EXPECT_FALSE(QFileInfo::exists(path(u"saved.doc"_s)));
     EXPECT_TRUE(libreOffice.start()->version().contains(u'.')); // the next run is a new one
+}
+
+TEST_F(LibreOfficeTest, a_broken_pipe_to_one_that_died_does_not_end_the_program) {
+    const auto word = libreOffice.start();
+    EXPECT_EQ(std::raise(SIGPIPE), 0);
+}
+
+TEST_F(LibreOfficeTest, one_that_was_killed_leaves_no_pipe) {
+    auto word = libreOffice.start();
+    const QStringList pipes = pipesOf(processesOf(folders.temporary).value(0));
+    EXPECT_EQ(pipes.size(), 2) << pipes.join(u'\n').toStdString();
+    signalOffice(SIGKILL);
+    word.reset();
+    for (const QString& pipe : pipes)
+        EXPECT_FALSE(QFileInfo::exists(pipe)) << pipe.toStdString();
 }
 
 TEST_F(LibreOfficeTest, one_that_hangs_at_work_is_killed_when_the_patience_is_over) {

@@ -11,6 +11,7 @@
 #include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/lang/XComponent.hpp>
 #include <cppuhelper/bootstrap.hxx>
+#include <csignal>
 #include <rtl/bootstrap.hxx>
 
 namespace quillford {
@@ -29,11 +30,20 @@ Reference<css::uno::XComponentContext> localContext(const QString& programFolder
     return cppu::defaultBootstrap_InitialComponentContext();
 }
 
+/// The bridge writes from threads of its own to a process that may have died. That is an error to
+/// be told, and not the end of this program, unless the program has said otherwise itself.
+void ignoreBrokenPipes() {
+    struct sigaction current = {};
+    if (::sigaction(SIGPIPE, nullptr, &current) == 0 && current.sa_handler == SIG_DFL)
+        std::signal(SIGPIPE, SIG_IGN);
+}
+
 } // namespace
 
 WriterConnection::WriterConnection(WriterProcess& process, UnoCalls& call,
                                    const QString& programFolder)
     : call_(call), local_(call([&] { return localContext(programFolder); })) {
+    ignoreBrokenPipes();
     QElapsedTimer time;
     time.start();
     for (call.watchdog().guard(process.processGroup()); !connect(process);

@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "base/Files.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -53,6 +54,23 @@ void markProfile(const QString& profile, const QByteArray& build) {
         replaceFile(extensions.filePath(QStringLiteral("buildid")), build);
 }
 
+/// Where LibreOffice's runtime keeps a pipe of this name.
+QString pipeFile(const QString& name) {
+    return QStringLiteral("/tmp/OSL_PIPE_%1_%2").arg(getuid()).arg(name);
+}
+
+/// The pipe on which every LibreOffice waits for a second start with its profile: named after the
+/// MD5 of the profile's address in UTF-16, each byte in hexadecimal without a leading zero.
+QString secondStartPipe(const QString& profile) {
+    const QByteArray hash = QCryptographicHash::hash(
+        QByteArrayView(reinterpret_cast<const char*>(profile.utf16()), 2 * profile.size()),
+        QCryptographicHash::Md5);
+    QString name = QStringLiteral("SingleOfficeIPC_");
+    for (const char byte : hash)
+        name += QString::number(static_cast<uchar>(byte), 16);
+    return name;
+}
+
 } // namespace
 
 WriterProcess::WriterProcess(const WriterStart& start)
@@ -64,13 +82,12 @@ WriterProcess::WriterProcess(const WriterStart& start)
     const QDir programs(start.programFolder);
     // The program itself and not its starter, so that the process is the one that works.
     process_.setProgram(programs.filePath(QStringLiteral("soffice.bin")));
-    process_.setArguments(
-        {QStringLiteral("--headless"), QStringLiteral("--invisible"), QStringLiteral("--norestore"),
-         QStringLiteral("--nologo"), QStringLiteral("--nodefault"),
-         QStringLiteral("--nofirststartwizard"), QStringLiteral("--nolockcheck"),
-         QStringLiteral("-env:UserInstallation=") +
-             QUrl::fromLocalFile(place(QStringLiteral("profile"))).toString(QUrl::FullyEncoded),
-         QStringLiteral("--accept=pipe,name=%1;urp;").arg(pipe_)});
+    process_.setArguments({QStringLiteral("--headless"), QStringLiteral("--invisible"),
+                           QStringLiteral("--norestore"), QStringLiteral("--nologo"),
+                           QStringLiteral("--nodefault"), QStringLiteral("--nofirststartwizard"),
+                           QStringLiteral("--nolockcheck"),
+                           QStringLiteral("-env:UserInstallation=") + profileAddress(),
+                           QStringLiteral("--accept=pipe,name=%1;urp;").arg(pipe_)});
     process_.setProcessEnvironment(environment(folder_.path()));
     process_.setWorkingDirectory(folder_.path());
     process_.setStandardInputFile(QProcess::nullDevice());
@@ -89,8 +106,13 @@ WriterProcess::~WriterProcess() {
         ::kill(-group, SIGKILL);
         process_.waitForFinished(-1);
     }
-    // One that was killed leaves its end of the pipe behind.
-    QFile::remove(QStringLiteral("/tmp/OSL_PIPE_%1_%2").arg(getuid()).arg(pipe_));
+    // One that was killed leaves its ends of the pipes behind.
+    QFile::remove(pipeFile(pipe_));
+    QFile::remove(pipeFile(secondStartPipe(profileAddress())));
+}
+
+QString WriterProcess::profileAddress() const {
+    return QUrl::fromLocalFile(place(QStringLiteral("profile"))).toString(QUrl::FullyEncoded);
 }
 
 QString WriterProcess::address() const {

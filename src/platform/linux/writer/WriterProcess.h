@@ -37,6 +37,7 @@ public:
     [[nodiscard]] QString place(const QString& name) const { return folder_.filePath(name); }
 
 private:
+    [[nodiscard]] QString profileAddress() const;
     void run();
 
     QTemporaryDir folder_;
