@@ -110,12 +110,30 @@ void takeLargest(Album& album, QWidget& form) {
     }
 }
 
+/// The splash as it stands between its fades.
+void takeSplash(Album& album, const mdlSystem& system) {
+    const QByteArray pace = qgetenv("QUILLFORD_TIME_SCALE");
+    qputenv("QUILLFORD_TIME_SCALE", "0.1");
+    QtClock clock;
+    qputenv("QUILLFORD_TIME_SCALE", pace);
+    frmSplash splash(clock, system);
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &splash, [&] {
+        const QImage shown = splash.grab().toImage();
+        if (shown.pixelColor(shown.rect().center()).alpha() < 255)
+            return;
+        look.stop();
+        album.take(splash, u"splash"_s);
+    });
+    look.start(1);
+    splash.showModally();
+}
+
 /// The dialogs that no page brings up by itself.
 void takeDialogs(Album& album, QWidget& form) {
     QtClock clock;
     const mdlSystem system;
-    frmSplash splash(clock, system);
-    album.take(splash, u"splash"_s);
+    takeSplash(album, system);
     static_cast<void>(msgWindow(&form).showExportToFileMsgWindow(true));
     const ProjectFields fields;
     VerificationState state;

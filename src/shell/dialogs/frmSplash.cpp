@@ -4,6 +4,7 @@
 #include "core/commands/Pause.h"
 
 #include <QPainter>
+#include <QPixmap>
 #include <QSvgRenderer>
 
 namespace quillford {
@@ -24,6 +25,7 @@ frmSplash::frmSplash(Clock& clock, const mdlSystem& system)
       step_(FadeStep) {
     setObjectName(QStringLiteral("frmSplash"));
     setFixedSize(440, 260);
+    setAttribute(Qt::WA_TranslucentBackground);
     Timer1_.setObjectName(QStringLiteral("Timer1"));
     Timer1_.setInterval(qRound(FadeInterval * clock.pace()));
     connect(&Timer1_, &QTimer::timeout, this, &frmSplash::timer1);
@@ -32,7 +34,6 @@ frmSplash::frmSplash(Clock& clock, const mdlSystem& system)
 void frmSplash::showModally() {
     if (clock_.pace() <= 0)
         return;
-    setWindowOpacity(0);
     show();
     Timer1_.start();
     while (!gone_)
@@ -44,7 +45,7 @@ void frmSplash::timer1() {
     alpha_ += step_;
     if (alpha_ >= FullAlpha + 1) {
         alpha_ = FullAlpha;
-        setWindowOpacity(1);
+        repaint();
         Timer1_.stop();
         Pause(SecondsShown, clock_, system_);
         step_ = -FadeStep;
@@ -54,12 +55,15 @@ void frmSplash::timer1() {
         Timer1_.stop();
         gone_ = true;
     } else {
-        setWindowOpacity(alpha_ / double{FullAlpha});
+        update();
     }
 }
 
-void frmSplash::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+QPixmap frmSplash::picture() const {
+    QPixmap picture(size() * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
     QSvgRenderer(QStringLiteral(":/pictures/splash.svg")).render(&painter, rect());
     QFont name = theme::headingFont();
     name.setPixelSize(34);
@@ -68,6 +72,13 @@ void frmSplash::paintEvent(QPaintEvent*) {
     painter.drawText(QRect(190, 96, 240, 44), Qt::AlignLeft, QStringLiteral("Quillford"));
     painter.setFont(theme::fieldFont());
     painter.drawText(QRect(192, 142, 240, 20), Qt::AlignLeft, QStringLiteral("Version 3.1"));
+    return picture;
+}
+
+void frmSplash::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setOpacity(alpha_ / double{FullAlpha});
+    painter.drawPixmap(0, 0, picture());
 }
 
 } // namespace quillford

@@ -9,7 +9,8 @@
 namespace quillford {
 
 /// The picture at the start of the program: it fades in, stays for three seconds and fades out. A
-/// plain borderless window; the toolkit's own splash may sleep a second until it is mapped.
+/// plain borderless window; the toolkit's own splash may sleep a second until it is mapped. It fades
+/// in what it paints, because not every desktop knows an opacity of whole windows.
 class frmSplash final : public QWidget {
     Q_OBJECT
 
@@ -25,6 +26,7 @@ protected:
 
 private:
     void timer1();
+    [[nodiscard]] QPixmap picture() const;
 
     Clock& clock_;
     const mdlSystem& system_;
