@@ -37,6 +37,8 @@ void IndexSurface::draw(const ElementIndex& index) {
 
 void IndexSurface::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    // A drawing stays as dark as it is when the index is disabled: it is still to be read.
+    painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
     for (const IndexLine& line : index_.lines) {
         painter.setFont(line.weight == TextWeight::Bold ? bold_ : regular_);
         painter.drawText(line.x, line.y + painter.fontMetrics().ascent(), line.text);

@@ -139,3 +139,10 @@ TEST_F(ElementIndexPanelTest, the_whole_index_can_be_disabled) {
     index->enableIndex(true);
     EXPECT_TRUE(control(u"picIndexContainer"_s).isEnabled());
 }
+
+TEST_F(ElementIndexPanelTest, a_disabled_index_is_as_legible_as_before) {
+    fill(3);
+    const QImage enabled = surface().grab().toImage();
+    index->enableIndex(false);
+    EXPECT_EQ(surface().grab().toImage(), enabled);
+}
