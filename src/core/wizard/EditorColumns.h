@@ -9,7 +9,8 @@ namespace quillford {
 ///
 /// A layout makes the project have `count` panels, through `ProjectFields::setPanelCount`, and the
 /// column on screen with it, scrolled to its top. Fields of new panels are empty, the texts of
-/// dropped panels are gone. The count field is neither read nor written.
+/// dropped panels are gone. The count field is not written, and read by `LayoutFigures` alone: no
+/// figure is one panel that is hidden.
 class EditorColumns {
 public:
     virtual ~EditorColumns() = default;
