@@ -1,5 +1,7 @@
-#include "app/WindowFixture.h"
+#include "app/ProgramFixture.h"
+#include "controls/ClickLabel.h"
 #include "controls/Picture.h"
+#include "controls/myImageButton.h"
 
 #include <QAccessible>
 #include <QSignalSpy>
@@ -7,11 +9,10 @@
 #include <functional>
 
 using namespace quillford;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class AccessibilityTest : public WindowFixture {
+class AccessibilityTest : public ProgramFixture {
 protected:
     using Visit = std::function<void(QAccessibleInterface& node)>;
 
@@ -42,10 +43,10 @@ protected:
         start();
         look(-1);
         startWithSample();
-        user.meets<QDialog>([](QDialog& drawings) { press(drawings, u"cmdOK"_s); });
+        user.meets<QDialog>(presses(u"cmdOK"_s));
         for (const int index : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}) {
             if (index > 0)
-                click(tab(index));
+                clickOn(tab(index));
             ASSERT_EQ(currentTab(), index);
             look(index);
         }
@@ -114,7 +115,7 @@ TEST_F(AccessibilityTest, what_can_be_clicked_and_takes_the_focus_is_pressed_by_
 TEST_F(AccessibilityTest, the_tab_key_reaches_every_field_and_button_of_a_section) {
     startWithSample();
     for (const int index : {0, 1, 2, 4, 5, 6, 7}) {
-        click(tab(index));
+        clickOn(tab(index));
         QSet<const QWidget*> wanted;
         for (const QWidget* widget : form().findChildren<QWidget*>())
             if (widget->isVisible() && widget->isEnabled() && !widget->focusProxy() &&

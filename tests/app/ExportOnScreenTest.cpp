@@ -1,9 +1,5 @@
 #include "app/ProgramFixture.h"
-#include "controls/LineField.h"
-#include "controls/Theme.h"
-#include "controls/myImageButton.h"
 #include "verification/dialogs/ReportSurface.h"
-#include "verification/dialogs/frmVerify.h"
 
 using namespace quillford;
 
@@ -12,16 +8,8 @@ namespace {
 class ExportOnScreenTest : public ProgramFixture {
 protected:
     void open() {
-        start({sampleProject()});
+        startWithSample();
         click(u"picTab(8)"_s);
-    }
-
-    static void press(QDialog& dialog, const QString& button) {
-        clickOn(*dialog.findChild<QWidget*>(button));
-    }
-
-    Answer presses(const QString& button) {
-        return [button](QDialog& dialog) { press(dialog, button); };
     }
 
     [[nodiscard]] static QRect onScreen(const QWidget& widget) {

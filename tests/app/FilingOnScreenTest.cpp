@@ -19,8 +19,7 @@ protected:
 } // namespace
 
 TEST_F(FilingOnScreenTest, a_killed_program_shows_its_new_project_as_recovered) {
-    start();
-    click(u"lblRecentPatents(0)"_s);
+    startWithNewProject();
     type(u"txtInventionTitle"_s, u"Easel"_s);
     letTimerSave();
     EXPECT_EQ(draftFiles(), QStringList{u"Draft -  1.ivd"_s});
@@ -96,8 +95,7 @@ TEST_F(FilingOnScreenTest, exit_cancelled_keeps_the_window_open_and_the_project_
 }
 
 TEST_F(FilingOnScreenTest, a_new_project_that_is_given_up_leaves_neither_file_nor_entry) {
-    start();
-    click(u"lblRecentPatents(0)"_s);
+    startWithNewProject();
     type(u"txtInventionTitle"_s, u"Easel"_s);
     letTimerSave();
     whenAsked(u"Save Project?"_s, QMessageBox::No);
@@ -109,8 +107,7 @@ TEST_F(FilingOnScreenTest, a_new_project_that_is_given_up_leaves_neither_file_no
 }
 
 TEST_F(FilingOnScreenTest, save_gives_a_new_project_a_name_and_drops_its_working_copy) {
-    start();
-    click(u"lblRecentPatents(0)"_s);
+    startWithNewProject();
     type(u"txtInventionTitle"_s, u"Easel"_s);
     letTimerSave();
     whenAskedForFile(drafts() + u"/mine"_s);

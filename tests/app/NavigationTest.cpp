@@ -1,31 +1,14 @@
-#include "app/WindowFixture.h"
+#include "app/ProgramFixture.h"
 #include "controls/HtmlView.h"
 #include "shell/dialogs/msgWindow.h"
 
-#include <QCheckBox>
-
 using namespace quillford;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class NavigationTest : public WindowFixture {
+class NavigationTest : public ProgramFixture {
 protected:
-    static void yes(msgWindow& window) { press(window, u"cmdYes"_s); }
-
-    static void no(msgWindow& window) { press(window, u"cmdNo"_s); }
-
-    static void ok(msgWindow& window) { press(window, u"cmdOK"_s); }
-
-    /// Ticks "Do not show this again" and answers.
-    static auto neverAgain(const QString& answer) {
-        return [answer](msgWindow& window) {
-            window.findChild<QCheckBox*>(u"chkShowMsg"_s)->click();
-            press(window, answer);
-        };
-    }
-
-    void clickTab(int index) { click(tab(index)); }
+    void clickTab(int index) { clickOn(tab(index)); }
 
     void next() { click(u"btnStep(1)"_s); }
 
@@ -56,7 +39,7 @@ TEST_F(NavigationTest, on_the_first_section_back_is_disabled_and_nothing_moves) 
 
 TEST_F(NavigationTest, back_never_validates) {
     startWithNewProject();
-    user.meets<msgWindow>(yes);
+    user.meets<msgWindow>(presses(u"cmdYes"_s));
     next();
     expectAt(1);
     EXPECT_TRUE(control(u"btnStep(0)"_s).isEnabled());
@@ -67,7 +50,9 @@ TEST_F(NavigationTest, back_never_validates) {
 
 TEST_F(NavigationTest, next_warns_at_each_attempt_until_the_box_is_ticked_and_then_never) {
     startWithNewProject();
-    user.meets<msgWindow>(no).meets<msgWindow>(no).meets<msgWindow>(neverAgain(u"cmdYes"_s));
+    user.meets<msgWindow>(presses(u"cmdNo"_s))
+        .meets<msgWindow>(presses(u"cmdNo"_s))
+        .meets<msgWindow>(ticksAndPresses(u"cmdYes"_s));
     next();
     expectAt(0);
     next();
@@ -81,7 +66,7 @@ TEST_F(NavigationTest, next_warns_at_each_attempt_until_the_box_is_ticked_and_th
 
 TEST_F(NavigationTest, a_warning_that_was_ticked_off_stays_away_at_the_next_start) {
     startWithNewProject();
-    user.meets<msgWindow>(neverAgain(u"cmdNo"_s));
+    user.meets<msgWindow>(ticksAndPresses(u"cmdNo"_s));
     next();
     expectAt(0);
     startWithNewProject();
@@ -92,7 +77,7 @@ TEST_F(NavigationTest, a_warning_that_was_ticked_off_stays_away_at_the_next_star
 TEST_F(NavigationTest, no_leads_into_the_first_field_that_needs_attention) {
     startWithNewProject();
     QTest::keyClicks(&line(u"txtFileNo"_s), u"QF-1"_s);
-    user.meets<msgWindow>(no);
+    user.meets<msgWindow>(presses(u"cmdNo"_s));
     next();
     EXPECT_EQ(form().focusWidget(), &line(u"txtInventionTitle"_s));
     EXPECT_TRUE(line(u"txtInventionTitle"_s).isTinted());
@@ -101,7 +86,7 @@ TEST_F(NavigationTest, no_leads_into_the_first_field_that_needs_attention) {
 
 TEST_F(NavigationTest, the_drawings_are_advised_about_at_each_entry_until_ticked_off) {
     startWithSample();
-    user.meets<msgWindow>(ok).meets<msgWindow>(neverAgain(u"cmdOK"_s));
+    user.meets<msgWindow>(presses(u"cmdOK"_s)).meets<msgWindow>(ticksAndPresses(u"cmdOK"_s));
     clickTab(3);
     expectAt(3);
     clickTab(2);
@@ -113,7 +98,7 @@ TEST_F(NavigationTest, the_drawings_are_advised_about_at_each_entry_until_ticked
 
 TEST_F(NavigationTest, each_tab_can_be_reached_shows_its_panel_and_has_one_bar) {
     startWithSample();
-    user.meets<msgWindow>(neverAgain(u"cmdOK"_s));
+    user.meets<msgWindow>(ticksAndPresses(u"cmdOK"_s));
     for (const int index : {1, 2, 3, 4, 5, 6, 7, 8, 9, 0}) {
         clickTab(index);
         expectAt(index);
@@ -127,7 +112,7 @@ TEST_F(NavigationTest, each_tab_can_be_reached_shows_its_panel_and_has_one_bar) 
 
 TEST_F(NavigationTest, next_and_back_walk_all_sections_one_by_one) {
     startWithSample();
-    user.meets<msgWindow>(neverAgain(u"cmdOK"_s));
+    user.meets<msgWindow>(ticksAndPresses(u"cmdOK"_s));
     for (int index = 1; index <= 8; ++index) {
         next();
         expectAt(index);
@@ -159,13 +144,9 @@ TEST_F(NavigationTest, a_click_on_the_filing_tab_does_nothing_there_too) {
 
 TEST_F(NavigationTest, an_incomplete_section_does_not_lead_to_the_filing_page) {
     startWithNewProject();
-    user.meets<QMessageBox>([](QMessageBox& box) {
-        EXPECT_EQ(box.windowTitle(), u"Your Provisional Is Not Ready to File"_s);
-        EXPECT_EQ(
-            box.text(),
-            u"Some of the sections in Quillford are not complete yet.  Please complete these sections and then return to this section."_s);
-        box.accept();
-    });
+    whenAsked(
+        u"Your Provisional Is Not Ready to File"_s, QMessageBox::Ok,
+        u"Some of the sections in Quillford are not complete yet.  Please complete these sections and then return to this section."_s);
     clickTab(9);
     expectAt(0);
 }
@@ -174,7 +155,7 @@ TEST_F(NavigationTest, a_complete_section_leads_to_the_filing_page_while_others_
     startWithSample();
     clickTab(7);
     empty(u"txtOperation"_s);
-    user.meets<msgWindow>(yes);
+    user.meets<msgWindow>(presses(u"cmdYes"_s));
     clickTab(0);
     EXPECT_EQ(tab(7).look(), TabLook::Incomplete);
     clickTab(9);
@@ -197,7 +178,7 @@ TEST_F(NavigationTest, one_missing_section_is_named_as_a_section) {
     startWithSample();
     clickTab(2);
     empty(u"txtPurpose"_s);
-    user.meets<msgWindow>(yes);
+    user.meets<msgWindow>(presses(u"cmdYes"_s));
     clickTab(8);
     EXPECT_EQ(
         preview(),
@@ -207,7 +188,7 @@ TEST_F(NavigationTest, one_missing_section_is_named_as_a_section) {
 
 TEST_F(NavigationTest, several_missing_sections_are_named_in_order) {
     startWithSample();
-    user.meets<msgWindow>(yes).meets<msgWindow>(yes);
+    user.meets<msgWindow>(presses(u"cmdYes"_s)).meets<msgWindow>(presses(u"cmdYes"_s));
     clickTab(4);
     empty(u"txtMainElement"_s);
     clickTab(2);
@@ -229,13 +210,9 @@ TEST_F(NavigationTest, without_a_change_the_draft_is_built_once_and_any_change_b
     EXPECT_EQ(preview(), u"still the old one"_s);
     clickTab(0);
     QTest::keyClicks(&line(u"txtCompany"_s), u"x"_s);
-    user.meets<QMessageBox>([](QMessageBox& box) {
-        EXPECT_EQ(box.windowTitle(), u"Save Project?"_s);
-        EXPECT_EQ(
-            box.text(),
-            u"It is recommended you save your project before creating a final draft. Do you wish to save your project now?"_s);
-        answer(box, QMessageBox::No);
-    });
+    whenAsked(
+        u"Save Project?"_s, QMessageBox::No,
+        u"It is recommended you save your project before creating a final draft. Do you wish to save your project now?"_s);
     clickTab(8);
     EXPECT_EQ(preview(), first);
 }
@@ -243,10 +220,7 @@ TEST_F(NavigationTest, without_a_change_the_draft_is_built_once_and_any_change_b
 TEST_F(NavigationTest, a_cancelled_export_does_nothing_further) {
     startWithSample();
     clickTab(8);
-    user.meets<QDialog>([](QDialog& verify) {
-        EXPECT_EQ(verify.windowTitle(), u"Verify Final Draft?"_s);
-        press(verify, u"cmdCancel"_s);
-    });
+    whenAsked(u"Verify Final Draft?"_s, presses(u"cmdCancel"_s));
     click(u"imgCreateToFile(2)"_s);
     EXPECT_FALSE(QApplication::activeModalWidget());
     expectAt(8);

@@ -1,9 +1,8 @@
 #include "app/ProgramFixture.h"
 
-#include "controls/myImageButton.h"
+#include "core/wizard/FocusOrder.h"
 #include "support/Files.h"
 
-#include <QAbstractButton>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -11,45 +10,83 @@ namespace quillford {
 
 namespace {
 
-constexpr std::chrono::milliseconds LookInterval{2};
-constexpr std::chrono::seconds Patience{10};
-
 /// A program of the desktop that writes down what it is called with.
 void writeCommand(const QString& path, const QByteArray& script) {
     writeFile(path, "#!/bin/sh\n" + script);
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
+/// The number of the only one of the ten for which this holds; -1 when that is not exactly one.
+template <typename Holds>
+int onlyOne(const Holds& holds) {
+    constexpr int Tabs = 10;
+    int found = -1;
+    for (int i = 0; i < Tabs; ++i)
+        if (holds(i))
+            found = found < 0 ? i : Tabs;
+    return found < Tabs ? found : -1;
+}
+
 } // namespace
 
 ProgramFixture::ProgramFixture() {
-    qputenv("HOME", home_.path().toUtf8());
-    for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
-        qputenv(variable, place(QString::fromLatin1(variable)).toUtf8());
-    QDir(home_.path()).mkdir(u"bin"_s);
     writeCommand(place(u"bin/xdg-open"_s), "echo \"$1\" >> \"$HOME/opened\"\n");
     writeCommand(place(u"bin/xdg-mime"_s), "echo some\n");
-    qputenv("PATH", place(u"bin:"_s).toUtf8() + path_);
-    QObject::connect(&user_, &QTimer::timeout, [this] { answerDialogs(); });
-    user_.start(LookInterval);
-}
-
-ProgramFixture::~ProgramFixture() {
-    EXPECT_TRUE(expected_.empty()) << "no dialog came up: " << qPrintable(expected_.front().title);
-    qputenv("PATH", path_);
 }
 
 void ProgramFixture::start(const QStringList& arguments) {
+    program_.reset();
     program_ = std::make_unique<Program>();
     ASSERT_TRUE(program_->start(arguments));
     ASSERT_TRUE(QTest::qWaitForWindowActive(&form()));
 }
 
+void ProgramFixture::startWithNewProject() {
+    start();
+    click(u"lblRecentPatents(0)"_s);
+}
+
+TabPicture& ProgramFixture::tab(int index) {
+    return control<TabPicture>(controlName(u"picTab", index));
+}
+
+QWidget& ProgramFixture::panel(int index) {
+    return control(controlName(u"picContainer", index));
+}
+
+int ProgramFixture::currentTab() {
+    return onlyOne([this](int index) {
+        const TabLook look = tab(index).look();
+        return look == TabLook::CompleteSelected || look == TabLook::IncompleteSelected;
+    });
+}
+
+int ProgramFixture::enabledPanel() {
+    return onlyOne([this](int index) { return panel(index).isEnabled(); });
+}
+
 void ProgramFixture::clickOn(QWidget& control) {
-    if (auto* button = qobject_cast<myImageButton*>(&control))
-        button->click();
-    else
-        QTest::mouseClick(&control, Qt::LeftButton);
+    auto* const face = control.findChild<QWidget*>(u"picbutton"_s);
+    QTest::mouseClick(face ? face : &control, Qt::LeftButton);
+}
+
+void ProgramFixture::press(const QWidget& dialog, const QString& name) {
+    auto* const pressed = dialog.findChild<QWidget*>(name);
+    ASSERT_TRUE(pressed) << qPrintable(name);
+    clickOn(*pressed);
+}
+
+ProgramFixture::Answer ProgramFixture::presses(const QString& button) {
+    return [button](QDialog& dialog) {
+        ModalUser::pressByKeys(dialog, dialog.findChild<QWidget*>(button));
+    };
+}
+
+ProgramFixture::Answer ProgramFixture::ticksAndPresses(const QString& button) {
+    return [button](QDialog& dialog) {
+        presses(u"chkShowMsg"_s)(dialog);
+        presses(button)(dialog);
+    };
 }
 
 void ProgramFixture::type(const QString& name, const QString& text) {
@@ -74,46 +111,6 @@ void ProgramFixture::choose(const QString& entry) {
     openFileMenu();
     ASSERT_TRUE(menuEntry(entry).isEnabled()) << qPrintable(entry);
     menuEntry(entry).trigger();
-}
-
-void ProgramFixture::whenAsked(const QString& title, const Answer& answer) {
-    expected_.push_back({title, answer});
-}
-
-void ProgramFixture::whenAsked(const QString& title, QMessageBox::StandardButton button) {
-    whenAsked(title, [button](QDialog& dialog) {
-        qobject_cast<QMessageBox*>(&dialog)->button(button)->click();
-    });
-}
-
-void ProgramFixture::whenAskedForFile(const QString& path) {
-    whenAsked({}, [path](QDialog& dialog) {
-        if (path.isEmpty())
-            return dialog.reject();
-        dialog.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(path);
-        dialog.accept();
-    });
-}
-
-void ProgramFixture::answerDialogs() {
-    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog || !dialog->isVisible() || dialog->objectName() == u"frmSplash")
-        return;
-    if (dialog == answered_ && !patience_.hasExpired())
-        return;
-    patience_ = QDeadlineTimer(Patience);
-    answered_ = dialog;
-    const bool isFileDialog = qobject_cast<QFileDialog*>(dialog);
-    if (expected_.empty() ||
-        (isFileDialog ? QString() : dialog->windowTitle()) != expected_.front().title) {
-        const auto* box = qobject_cast<QMessageBox*>(dialog);
-        ADD_FAILURE() << "unexpected: " << qPrintable(dialog->windowTitle()) << ": "
-                      << qPrintable(box ? box->text() : QString());
-        return dialog->reject();
-    }
-    const Expected expected = std::move(expected_.front());
-    expected_.pop_front();
-    expected.answer(*dialog);
 }
 
 void ProgramFixture::letTimerSave() {

@@ -1,18 +1,15 @@
-#include "app/WindowFixture.h"
+#include "app/ProgramFixture.h"
 #include "controls/HtmlView.h"
 
 using namespace quillford;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class ProgramTest : public WindowFixture {
+class ProgramTest : public ProgramFixture {
 protected:
     /// The sample under another name, which the start is given as an argument.
     void startWith(const QString& name) {
-        const QString path = folder_.filePath(name);
-        ASSERT_TRUE(QFile::copy(QStringLiteral(QUILLFORD_SAMPLE_PROJECT), path));
-        start({path});
+        start({sampleProject(name)});
         expectSampleIsOpen(name);
     }
 
@@ -69,25 +66,24 @@ TEST_F(ProgramTest, a_path_may_hold_blanks_quotes_and_any_letters) {
 }
 
 TEST_F(ProgramTest, a_path_with_blanks_opens_also_when_it_comes_in_pieces) {
-    const QString path = folder_.filePath(u"my easel.ivd"_s);
-    ASSERT_TRUE(QFile::copy(QStringLiteral(QUILLFORD_SAMPLE_PROJECT), path));
+    const QString path = sampleProject(u"my easel.ivd"_s);
     start(path.split(u' '));
     expectSampleIsOpen(path);
 }
 
 TEST_F(ProgramTest, a_name_without_a_folder_is_taken_from_where_the_user_is) {
-    ASSERT_TRUE(QFile::copy(QStringLiteral(QUILLFORD_SAMPLE_PROJECT), samplePath()));
+    const QString path = sampleProject();
     const QString before = QDir::currentPath();
-    QDir::setCurrent(folder_.path());
-    start({u"easel.ivd"_s});
+    QDir::setCurrent(QFileInfo(path).path());
+    start({QFileInfo(path).fileName()});
     QDir::setCurrent(before);
     expectSampleIsOpen(u"easel.ivd"_s);
 }
 
 TEST_F(ProgramTest, a_file_that_is_missing_is_told_and_no_form_comes) {
-    expectMissing(folder_.filePath(u"missing.ivd"_s));
-    expectMissing(folder_.filePath(u"<b>x</b>.ivd"_s));
-    expectMissing(folder_.path());
+    expectMissing(place(u"missing.ivd"_s));
+    expectMissing(place(u"<b>x</b>.ivd"_s));
+    expectMissing(qEnvironmentVariable("HOME"));
 }
 
 TEST_F(ProgramTest, the_association_alone_ends_without_a_window) {
@@ -120,14 +116,14 @@ TEST_F(ProgramTest, a_project_that_was_opened_is_offered_at_the_next_start) {
     start();
     EXPECT_TRUE(control(u"lblRecentPatents(1)"_s).isVisible());
     click(u"lblRecentPatents(1)"_s);
-    expectSampleIsOpen(samplePath());
+    expectSampleIsOpen(place(u"easel.ivd"_s));
 }
 
 TEST_F(ProgramTest, a_recent_project_whose_file_is_gone_leaves_the_program_standing) {
     startWithSample();
     form().close();
     start();
-    ASSERT_TRUE(QFile::remove(samplePath()));
+    ASSERT_TRUE(QFile::remove(place(u"easel.ivd"_s)));
     user.meets<QMessageBox>([](QMessageBox& box) { box.accept(); });
     click(u"lblRecentPatents(1)"_s);
     EXPECT_TRUE(form().isVisible());

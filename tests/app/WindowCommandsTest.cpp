@@ -1,37 +1,25 @@
-#include "app/WindowFixture.h"
+#include "app/ProgramFixture.h"
+#include "support/Files.h"
 #include "support/TurnWheel.h"
 
 #include <QComboBox>
-#include <QFileDialog>
 #include <QMenu>
 #include <QScrollBar>
 
 using namespace quillford;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class WindowCommandsTest : public WindowFixture {
+class WindowCommandsTest : public ProgramFixture {
 protected:
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
         QWidget* focus = QApplication::focusWidget();
         QTest::keyClick(focus ? focus : &form(), key, modifiers);
     }
 
-    void openFileMenuAndLeave() {
-        click(u"lblMenuFile"_s);
-        control<QMenu>(u"mnuFile"_s).hide();
-    }
-
     void change() { QTest::keyClicks(&line(u"txtCompany"_s), u"x"_s); }
 
-    [[nodiscard]] QByteArray saved() const {
-        QFile file(samplePath());
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
-
-    static void cancel(QMessageBox& box) { answer(box, QMessageBox::Cancel); }
+    [[nodiscard]] QByteArray saved() const { return contentOf(place(u"easel.ivd"_s)); }
 
     QScrollBar& bar(int section) { return control<QScrollBar>(u"vscroll(%1)"_s.arg(section)); }
 };
@@ -57,7 +45,7 @@ TEST_F(WindowCommandsTest, ctrl_shift_s_saves_nothing) {
 
 TEST_F(WindowCommandsTest, under_the_welcome_page_ctrl_s_is_off_once_the_menu_was_opened_there) {
     start();
-    openFileMenuAndLeave();
+    openFileMenu();
     key(Qt::Key_S);
     EXPECT_TRUE(control(u"picWelcomePage"_s).isVisible());
     EXPECT_FALSE(QApplication::activeModalWidget());
@@ -66,7 +54,7 @@ TEST_F(WindowCommandsTest, under_the_welcome_page_ctrl_s_is_off_once_the_menu_wa
 TEST_F(WindowCommandsTest,
        under_the_welcome_page_ctrl_s_leaves_it_while_the_menu_was_never_opened) {
     start();
-    user.meets<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    whenAskedForFile({});
     key(Qt::Key_S);
     EXPECT_FALSE(control(u"picWelcomePage"_s).isVisible());
 }
@@ -81,17 +69,10 @@ TEST_F(WindowCommandsTest, ctrl_n_leaves_the_welcome_page) {
 TEST_F(WindowCommandsTest, ctrl_n_and_ctrl_o_ask_about_a_changed_project_first) {
     startWithSample();
     change();
-    user.meets<QMessageBox>([](QMessageBox& box) {
-            EXPECT_EQ(
-                box.text(),
-                u"Do you want to save the current project before you create a new Project?"_s);
-            cancel(box);
-        })
-        .meets<QMessageBox>([](QMessageBox& box) {
-            EXPECT_EQ(box.text(),
-                      u"Do you want to save the current project before you open the next file?"_s);
-            cancel(box);
-        });
+    whenAsked(u"Save Project?"_s, QMessageBox::Cancel,
+              u"Do you want to save the current project before you create a new Project?"_s);
+    whenAsked(u"Save Project?"_s, QMessageBox::Cancel,
+              u"Do you want to save the current project before you open the next file?"_s);
     key(Qt::Key_N);
     EXPECT_EQ(line(u"txtInventionTitle"_s).text(), u"Folding Field Easel"_s);
     key(Qt::Key_O);
@@ -101,7 +82,7 @@ TEST_F(WindowCommandsTest, ctrl_n_and_ctrl_o_ask_about_a_changed_project_first) 
 TEST_F(WindowCommandsTest, ctrl_n_empties_a_project_that_is_not_to_be_saved) {
     startWithSample();
     change();
-    user.meets<QMessageBox>([](QMessageBox& box) { answer(box, QMessageBox::No); });
+    whenAsked(u"Save Project?"_s, QMessageBox::No);
     key(Qt::Key_N);
     EXPECT_EQ(line(u"txtInventionTitle"_s).text(), QString());
     EXPECT_EQ(currentTab(), 0);
@@ -112,33 +93,28 @@ TEST_F(WindowCommandsTest, alt_f_opens_the_file_menu_with_its_entries_enabled_as
     key(Qt::Key_F, Qt::AltModifier);
     auto& menu = control<QMenu>(u"mnuFile"_s);
     EXPECT_TRUE(menu.isVisible());
-    EXPECT_FALSE(control<QMenu>(u"mnuFile"_s).findChild<QAction*>(u"mnuFileSave"_s)->isEnabled());
+    EXPECT_FALSE(menuEntry(u"mnuFileSave"_s).isEnabled());
     menu.hide();
     click(u"lblRecentPatents(0)"_s);
     key(Qt::Key_F, Qt::AltModifier);
-    EXPECT_TRUE(menu.findChild<QAction*>(u"mnuFileSave"_s)->isEnabled());
-    EXPECT_FALSE(menu.findChild<QAction*>(u"mnuFilePrint"_s)->isEnabled());
+    EXPECT_TRUE(menuEntry(u"mnuFileSave"_s).isEnabled());
+    EXPECT_FALSE(menuEntry(u"mnuFilePrint"_s).isEnabled());
     menu.hide();
     startWithSample();
-    openFileMenuAndLeave();
-    EXPECT_TRUE(form().findChild<QAction*>(u"mnuFilePrint"_s)->isEnabled());
+    openFileMenu();
+    EXPECT_TRUE(menuEntry(u"mnuFilePrint"_s).isEnabled());
 }
 
 TEST_F(WindowCommandsTest, the_close_control_asks_as_the_exit_entry_does) {
     startWithSample();
     change();
-    QStringList asked;
-    const auto keep = [&asked](QMessageBox& box) {
-        asked.append(box.windowTitle() + u": "_s + box.text());
-        cancel(box);
-    };
-    user.meets<QMessageBox>(keep).meets<QMessageBox>(keep);
+    for (int i = 0; i < 2; ++i)
+        whenAsked(u"Save Project?"_s, QMessageBox::Cancel,
+                  u"Do you want to save the current project before you exit?"_s);
     click(u"lblClose"_s);
     EXPECT_TRUE(form().isVisible());
-    form().findChild<QAction*>(u"mnuFileExit"_s)->trigger();
+    menuEntry(u"mnuFileExit"_s).trigger();
     EXPECT_TRUE(form().isVisible());
-    ASSERT_EQ(asked.size(), 2);
-    EXPECT_EQ(asked[0], asked[1]);
 }
 
 TEST_F(WindowCommandsTest, an_unchanged_project_closes_without_a_question) {
@@ -149,7 +125,7 @@ TEST_F(WindowCommandsTest, an_unchanged_project_closes_without_a_question) {
 
 TEST_F(WindowCommandsTest, a_notch_over_the_help_pane_leaves_the_sections_bar_alone) {
     startWithSample();
-    click(tab(1));
+    clickOn(tab(1));
     QScrollBar& inventors = bar(0);
     ASSERT_TRUE(inventors.isVisible());
     turnWheel(control(u"picHelpOn"_s), NotchDown);
@@ -160,7 +136,7 @@ TEST_F(WindowCommandsTest, a_notch_over_the_help_pane_leaves_the_sections_bar_al
 
 TEST_F(WindowCommandsTest, at_the_ends_of_a_sections_bar_a_notch_changes_nothing) {
     startWithSample();
-    click(tab(1));
+    clickOn(tab(1));
     QScrollBar& inventors = bar(0);
     turnWheel(panel(1), NotchUp);
     EXPECT_EQ(inventors.value(), 0);
@@ -172,7 +148,7 @@ TEST_F(WindowCommandsTest, at_the_ends_of_a_sections_bar_a_notch_changes_nothing
 TEST_F(WindowCommandsTest, on_tabs_without_a_bar_the_wheel_moves_none) {
     startWithSample();
     for (const int index : {0, 7, 8, 9}) {
-        click(tab(index));
+        clickOn(tab(index));
         ASSERT_EQ(currentTab(), index);
         QList<int> before;
         for (int section = 0; section < 6; ++section)
@@ -187,7 +163,7 @@ TEST_F(WindowCommandsTest, on_tabs_without_a_bar_the_wheel_moves_none) {
 
 TEST_F(WindowCommandsTest, a_notch_over_a_count_changes_no_count) {
     startWithSample();
-    click(tab(1));
+    clickOn(tab(1));
     auto& count = control<QComboBox>(u"cboInventorsNum"_s);
     const QString before = count.currentText();
     turnWheel(count, NotchDown);

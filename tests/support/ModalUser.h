@@ -2,75 +2,72 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QDialog>
+#include <QMessageBox>
+#include <QPointer>
 #include <QTimer>
-#include <QWidget>
 
-#include <chrono>
 #include <deque>
 #include <functional>
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace quillford {
 
-/// A user at windows that stand before all others. What is told by `meets` is done in this order,
-/// each once a window of its kind is up; a step that opens a further window leaves that to the
-/// next step. A window that does not come, or that nobody expects, fails the test instead of
-/// stopping it for ever.
+/// A user at the windows that stand before all others. What is told is done in this order, each
+/// once a window that fits is up; a step may also be told for a window that an earlier step has
+/// left open, and a step that opens a further window leaves that to the next one.
+///
+/// A window that nobody expects fails the test and is closed, and so does one that stays open when
+/// everything told for it is done. A step whose window never came fails the test at the end.
 class ModalUser final : public QObject {
 public:
-    ~ModalUser() override {
-        EXPECT_TRUE(steps_.empty()) << steps_.size() << " windows have not come up";
-    }
+    using Answer = std::function<void(QDialog&)>;
+
+    ModalUser();
+    ~ModalUser() override;
 
     /// Has `act` called with the window that is up, a reference to `Window`.
     template <typename Window, typename Act>
     ModalUser& meets(Act act) {
-        steps_.push_back({[](QWidget* shown) { return qobject_cast<Window*>(shown) != nullptr; },
-                          [act](QWidget* shown) { act(*qobject_cast<Window*>(shown)); }});
-        if (!looking_)
-            look();
-        return *this;
+        return expects(
+            QString::fromLatin1(Window::staticMetaObject.className()),
+            [](QWidget& shown) { return qobject_cast<Window*>(&shown) != nullptr; },
+            [act](QWidget& shown) { act(*qobject_cast<Window*>(&shown)); });
     }
+
+    /// A dialog with this title.
+    ModalUser& isAsked(const QString& title, const Answer& answer);
+
+    /// A box with this title, answered by keys; where a text is told, it has to be that of the box.
+    ModalUser& isAsked(const QString& title, QMessageBox::StandardButton button,
+                       const std::optional<QString>& text = {});
+
+    /// A file dialog, into which the path is typed; with an empty one it is left by Escape.
+    ModalUser& isAskedForFile(const QString& path);
+
+    [[nodiscard]] bool allCame() const { return steps_.empty(); }
+
+    /// Moves to a control of a window by the Tab key, and presses the space bar there.
+    static void pressByKeys(QWidget& window, QWidget* control);
 
 private:
     struct Step {
-        std::function<bool(QWidget*)> fits;
-        std::function<void(QWidget*)> act;
+        QString what;
+        std::function<bool(QWidget&)> fits;
+        std::function<void(QWidget&)> act;
     };
 
-    static constexpr std::chrono::seconds Patience{10};
-
-    void look() {
-        looking_ = true;
-        QTimer::singleShot(1, this, [this] { meet(QApplication::activeModalWidget()); });
-    }
-
-    void meet(QWidget* shown) {
-        looking_ = false;
-        const bool fits = shown && shown->isVisible() && steps_.front().fits(shown);
-        // The window behind a box that was closed does not become active by itself.
-        if (fits && !shown->isActiveWindow())
-            shown->activateWindow();
-        if (fits && shown->isActiveWindow()) {
-            const Step step = std::move(steps_.front());
-            steps_.pop_front();
-            patience_ = QDeadlineTimer(Patience);
-            if (!steps_.empty())
-                look();
-            step.act(shown);
-        } else if (patience_.hasExpired()) {
-            ADD_FAILURE() << "the window that was expected is not up";
-            steps_.clear();
-            if (shown)
-                shown->close();
-        } else {
-            look();
-        }
-    }
+    ModalUser& expects(const QString& what, const std::function<bool(QWidget&)>& fits,
+                       const std::function<void(QWidget&)>& act);
+    void lookAgain();
+    void look();
+    void meet(QWidget& shown);
+    void refuse(QWidget& shown) const;
 
     std::deque<Step> steps_;
-    QDeadlineTimer patience_{Patience};
-    bool looking_ = false;
+    QPointer<QWidget> met_; ///< the window that a step was done for, or that was refused
+    QDeadlineTimer patience_;
 };
 
 } // namespace quillford

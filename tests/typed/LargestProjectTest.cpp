@@ -2,10 +2,8 @@
 #include "typed/TypedProgram.h"
 
 #include <QApplication>
-#include <QtTest>
 
 using namespace quillford;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -24,9 +22,9 @@ protected:
 
     LargestProject() {
         // The user has had enough of these windows.
-        windows.expectMessageWindow(u"Section Not Complete"_s, u"cmdYes"_s, true);
+        whenAsked(u"Section Not Complete"_s, ticksAndPresses(u"cmdYes"_s));
         clickTab(1);
-        windows.expectMessageWindow(u"Drawings - Important Information!"_s, u"cmdOK"_s, true);
+        whenAsked(u"Drawings - Important Information!"_s, ticksAndPresses(u"cmdOK"_s));
         clickTab(3);
     }
 
@@ -40,9 +38,9 @@ protected:
         clickTab(4);
         chooseCount(u"cboMainElementNum"_s, counts.elements);
         clickTab(5);
-        EXPECT_EQ(user->shownMembers(u"picElementUsers"_s), counts.elements);
+        EXPECT_EQ(hands->shownMembers(u"picElementUsers"_s), counts.elements);
         clickTab(6);
-        EXPECT_EQ(user->shownMembers(u"picfrmMainElementDes"_s), counts.elements);
+        EXPECT_EQ(hands->shownMembers(u"picfrmMainElementDes"_s), counts.elements);
         settle();
     }
 
@@ -66,7 +64,7 @@ protected:
     };
 
     [[nodiscard]] Size size() const {
-        return {QApplication::allWidgets().size(), user->form().findChildren<QObject*>().size()};
+        return {QApplication::allWidgets().size(), hands->form().findChildren<QObject*>().size()};
     }
 };
 
@@ -91,20 +89,20 @@ TEST_F(LargestProject, goes_back_to_the_smallest_and_leaves_nothing_over) {
 TEST_F(LargestProject, has_empty_panels_after_it_was_the_smallest_in_between) {
     choose(Largest);
     clickTab(5);
-    user->fill(u"txtElementSub9(14)"_s, u"pin"_s);
-    user->fill(u"txtElementMain(14)"_s, u"hinge"_s);
+    hands->fill(u"txtElementSub9(14)"_s, u"pin"_s);
+    hands->fill(u"txtElementMain(14)"_s, u"hinge"_s);
     clickTab(4);
-    EXPECT_EQ(user->shown(u"txtElementName(14)"_s), u"hinge");
+    EXPECT_EQ(hands->shown(u"txtElementName(14)"_s), u"hinge");
     clickTab(3);
-    user->fill(u"txtFigureDetail(49)"_s, u"a view"_s);
+    hands->fill(u"txtFigureDetail(49)"_s, u"a view"_s);
     clickTab(2);
-    user->fill(u"txtObject(19)"_s, u"stands"_s);
+    hands->fill(u"txtObject(19)"_s, u"stands"_s);
     clickTab(1);
-    user->fill(u"txtZipStep2(7)"_s, u"97330"_s);
+    hands->fill(u"txtZipStep2(7)"_s, u"97330"_s);
     choose(Smallest);
     choose(Largest);
     for (const QString& name :
          {u"txtElementSub9(14)"_s, u"txtElementMain(14)"_s, u"txtElementName(14)"_s,
           u"txtFigureDetail(49)"_s, u"txtObject(19)"_s, u"txtZipStep2(7)"_s})
-        EXPECT_EQ(user->shown(name), u"") << qPrintable(name);
+        EXPECT_EQ(hands->shown(name), u"") << qPrintable(name);
 }

@@ -29,22 +29,22 @@ void ProjectTypist::typeField(const FieldRow& row, int panel) {
         return;
     const QString name = controlName(FieldPlace{row.id, panel});
     const QString text = told.fields.at(row.id, panel).text();
-    if (user->shown(name) == text)
+    if (hands->shown(name) == text)
         return;
-    auto* const list = dynamic_cast<FormCombo*>(&user->control(name));
+    auto* const list = dynamic_cast<FormCombo*>(&hands->control(name));
     if (list && list->findText(text) >= 0)
-        user->choose(name, text);
+        hands->choose(name, text);
     else
-        user->fill(name, text);
-    EXPECT_EQ(user->shown(name), text) << qPrintable(name);
+        hands->fill(name, text);
+    EXPECT_EQ(hands->shown(name), text) << qPrintable(name);
 }
 
 void ProjectTypist::attachPictures() {
     for (int figure = 0; figure < told.fields.txtAttachFig.count(); ++figure) {
-        windows.expectFileDialog(told.fields.txtAttachFig(figure).text());
-        user->tabTo(controlName(u"imgBrowse", figure));
-        user->press(Qt::Key_Space);
-        user->comeBack();
+        whenAskedForFile(told.fields.txtAttachFig(figure).text());
+        hands->tabTo(controlName(u"imgBrowse", figure));
+        hands->press(Qt::Key_Space);
+        hands->comeBack();
     }
 }
 

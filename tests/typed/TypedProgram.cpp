@@ -1,27 +1,22 @@
 #include "typed/TypedProgram.h"
 
-#include "controls/Theme.h"
 #include "core/wizard/FocusOrder.h"
-
-#include <QApplication>
-#include <QtTest>
 
 namespace quillford {
 
-TypedProgram::Look::Look() {
-    theme::apply(*qApp);
+TypedProgram::TypedProgram() {
+    begin();
+    hands->click(u"lblRecentPatents(0)"_s);
 }
 
-TypedProgram::TypedProgram() {
-    if (!program_.start({}))
-        throw std::runtime_error("the program has ended at its start");
-    user = std::make_unique<TypingUser>(program_.window()->form());
-    user->click(QStringLiteral("lblRecentPatents(0)"));
+void TypedProgram::begin(const QStringList& arguments) {
+    start(arguments);
+    hands = std::make_unique<TypingUser>(form());
 }
 
 void TypedProgram::clickTab(int tab) {
-    user->click(controlName(u"picTab", tab));
-    user->comeBack();
+    hands->click(controlName(u"picTab", tab));
+    hands->comeBack();
 }
 
 void TypedProgram::chooseCount(const QString& list, int count) {
@@ -31,15 +26,15 @@ void TypedProgram::chooseCount(const QString& list, int count) {
         {QStringLiteral("cboFiguresNum"), QStringLiteral("picFigures")},
         {QStringLiteral("cboMainElementNum"), QStringLiteral("picElement")},
     };
-    user->choose(list, QString::number(count));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return user->shownMembers(panels.value(list)) == count; }))
+    hands->choose(list, QString::number(count));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hands->shownMembers(panels.value(list)) == count; }))
         << qPrintable(list) << " " << count;
 }
 
 void TypedProgram::saveAs(const QString& path) {
-    windows.expectFileDialog(path);
-    user->press(Qt::Key_S, Qt::ControlModifier);
-    user->comeBack();
+    whenAskedForFile(path);
+    hands->press(Qt::Key_S, Qt::ControlModifier);
+    hands->comeBack();
 }
 
 } // namespace quillford

@@ -1,22 +1,17 @@
 #pragma once
 
-#include "app/Program.h"
-#include "support/PrintQt.h"
-#include "support/ScopedEnvironment.h"
-#include "typed/AnsweredWindows.h"
+#include "app/ProgramFixture.h"
 #include "typed/TypingUser.h"
-
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-#include <memory>
 
 namespace quillford {
 
-/// The whole program, started by its user and left on the first section of a new project.
-class TypedProgram : public testing::Test {
+/// The whole program under the hands of its user, who has begun a new project.
+class TypedProgram : public ProgramFixture {
 protected:
     TypedProgram();
+
+    /// Starts the program, and takes its form in hand.
+    void begin(const QStringList& arguments = {});
 
     /// Moves to a section by its picture.
     void clickTab(int tab);
@@ -27,22 +22,7 @@ protected:
     /// Saves the project under this name by the keys, and waits.
     void saveAs(const QString& path);
 
-    QTemporaryDir folder; ///< for the test's files
-    AnsweredWindows windows;
-
-private:
-    /// The settings of another test, such as a window that does not come again, do not count.
-    const ScopedEnvironment settings_{"XDG_CONFIG_HOME", folder.path().toUtf8()};
-
-    /// Comes before the first widget, which takes its font from the application.
-    struct Look {
-        Look();
-    } look_;
-
-    Program program_;
-
-protected:
-    std::unique_ptr<TypingUser> user;
+    std::unique_ptr<TypingUser> hands;
 };
 
 } // namespace quillford

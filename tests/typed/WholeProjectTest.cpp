@@ -9,7 +9,6 @@
 #include <QTextEdit>
 
 using namespace quillford;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -18,27 +17,25 @@ protected:
     WholeProject()
         : ProjectTypist(QStringLiteral(QUILLFORD_SAMPLES "/folding-easel/folding-easel.json")) {}
 
-    void expectWarning(const QString& button, bool tickBox = false) {
-        windows.expectMessageWindow(u"Section Not Complete"_s, button, tickBox);
-    }
+    void expectWarning(const Answer& answer) { whenAsked(u"Section Not Complete"_s, answer); }
 
-    void expectAdvice(bool tickBox = false) {
-        windows.expectMessageWindow(u"Drawings - Important Information!"_s, u"cmdOK"_s, tickBox);
+    void expectAdvice(const Answer& answer) {
+        whenAsked(u"Drawings - Important Information!"_s, answer);
     }
 
     void next() {
-        user->click(u"btnStep(1)"_s);
-        user->comeBack();
+        hands->click(u"btnStep(1)"_s);
+        hands->comeBack();
     }
 
-    void back() { user->click(u"btnStep(0)"_s); }
+    void back() { hands->click(u"btnStep(0)"_s); }
 
     [[nodiscard]] bool isMarkedComplete(int tab) const {
-        return user->control(controlName(u"picTab", tab)).accessibleName().contains(u"complete");
+        return hands->control(controlName(u"picTab", tab)).accessibleName().contains(u"complete");
     }
 
     void typeIntroduction() {
-        expectWarning(u"cmdNo"_s);
+        expectWarning(presses(u"cmdNo"_s));
         next();
         typeSection(1);
         next();
@@ -46,13 +43,12 @@ protected:
 
     void typeInventors() {
         chooseCount(u"cboInventorsNum"_s, told.fields.cboInventorsNum.number());
-        windows.expectBox(u"Information"_s,
-                          u"Do you want Quillford 3.1 to use the information provided in section "
-                          "1.Introduction for the First Inventor?"_s,
-                          QMessageBox::Yes);
-        user->tabTo(u"chkSameAsContact"_s);
-        user->press(Qt::Key_Space);
-        user->comeBack();
+        whenAsked(u"Information"_s, QMessageBox::Yes,
+                  u"Do you want Quillford 3.1 to use the information provided in section "
+                  "1.Introduction for the First Inventor?"_s);
+        hands->tabTo(u"chkSameAsContact"_s);
+        hands->press(Qt::Key_Space);
+        hands->comeBack();
         typeSection(2);
         clickTab(2);
     }
@@ -60,7 +56,7 @@ protected:
     void typeObjects() {
         chooseCount(u"cboObjectNum"_s, told.fields.cboObjectNum.number());
         typeSection(3);
-        expectAdvice();
+        expectAdvice(presses(u"cmdOK"_s));
         next();
     }
 
@@ -68,9 +64,9 @@ protected:
         chooseCount(u"cboFiguresNum"_s, told.fields.cboFiguresNum.number());
         attachPictures();
         // A look back at the section before, and in again.
-        expectWarning(u"cmdYes"_s, true);
+        expectWarning(ticksAndPresses(u"cmdYes"_s));
         clickTab(2);
-        expectAdvice(true);
+        expectAdvice(ticksAndPresses(u"cmdOK"_s));
         next();
         typeSection(4);
         back();
@@ -106,7 +102,7 @@ QByteArray sha256(const QString& path) {
 
 TEST_F(WholeProject, typed_in_through_all_sections_is_saved_field_by_field_as_it_was_told) {
     typeAll();
-    const QString path = folder.path() + u"/easel.ivd"_s;
+    const QString path = place(u"easel.ivd"_s);
     saveAs(path);
 
     Project saved;
@@ -128,17 +124,16 @@ TEST_F(WholeProject, typed_in_through_all_sections_is_saved_field_by_field_as_it
 
 TEST_F(WholeProject, typed_in_through_all_sections_completes_them_and_shows_the_final_draft) {
     typeAll();
-    windows.expectBox(u"Save Project?"_s,
-                      u"It is recommended you save your project before creating a final draft. Do "
-                      "you wish to save your project now?"_s,
-                      QMessageBox::Yes);
-    windows.expectFileDialog(folder.path() + u"/easel.ivd"_s);
+    whenAsked(u"Save Project?"_s, QMessageBox::Yes,
+              u"It is recommended you save your project before creating a final draft. Do you wish "
+              "to save your project now?"_s);
+    whenAskedForFile(place(u"easel.ivd"_s));
     next();
-    EXPECT_TRUE(windows.allCame());
+    EXPECT_TRUE(user.allCame());
     for (int tab = 0; tab <= 8; ++tab)
         EXPECT_TRUE(isMarkedComplete(tab)) << tab;
-    EXPECT_TRUE(user->control(u"imgCreateToFile(1)"_s).isEnabled());
-    const QString draft = user->control<QTextEdit>(u"webPreview"_s).toPlainText();
+    EXPECT_TRUE(hands->control(u"imgCreateToFile(1)"_s).isEnabled());
+    const QString draft = hands->control<QTextEdit>(u"webPreview"_s).toPlainText();
     for (const QString& part : {told.fields.txtInventionTitle.text(), u"tilting mast 40"_s})
         EXPECT_TRUE(draft.contains(part, Qt::CaseInsensitive)) << qPrintable(part);
 }
