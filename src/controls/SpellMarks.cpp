@@ -39,19 +39,20 @@ void SpellMarks::offer(QMenu& menu, const QString& word,
         connect(action, &QAction::triggered, this, std::move(act));
         menu.insertAction(rest, action);
     };
-    const auto learn = [this, word](void (Spelling::*how)(QStringView)) {
-        return [this, word, how] {
-            if (spelling_)
-                (spelling_->*how)(word);
-            surface_.update();
-        };
-    };
     if (replace)
         for (const QString& suggestion : spelling_->suggestions(word))
             add(suggestion, [replace, suggestion] { replace(suggestion); });
     menu.insertSeparator(rest);
-    add(QStringLiteral("Add to Dictionary"), learn(&Spelling::addToDictionary));
-    add(QStringLiteral("Ignore"), learn(&Spelling::ignore));
+    add(QStringLiteral("Add to Dictionary"), [this, word] {
+        if (spelling_)
+            spelling_->addToDictionary(word);
+        surface_.update();
+    });
+    add(QStringLiteral("Ignore"), [this, word] {
+        if (spelling_)
+            spelling_->ignore(word);
+        surface_.update();
+    });
     menu.insertSeparator(rest);
 }
 
