@@ -95,7 +95,8 @@ public:
     /// `Error` when there is no such file or it holds no picture; the selection stays then.
     virtual void addPicture(const QString& path) = 0;
 
-    /// Sets the page header of the document's first section.
+    /// Sets the page header of the document's first section; its text is taken as that of
+    /// `setSelectedText`.
     virtual void setHeader(const QString& text) = 0;
 
     /// Sets the number format of one level of a list. Lists and levels are counted from 1; in the

@@ -19,7 +19,7 @@ bool WordComposer::ExportToWord(const QString& path) {
         wordVersion_ = document.checkWordVersion();
         WordFilling(fields_, document).fill();
         save(document, path);
-        document.Unload();
+        close(document);
         return true;
     });
 }
@@ -39,6 +39,16 @@ void WordComposer::save(WordTemplate& document, const QString& path) {
     const bool isWanted = !path.isEmpty() && path != u"Printer";
     if (isWanted && !document.SaveAs(path))
         throw *document.failure();
+}
+
+/// What is wanted of the document is saved by now: a word processor that cannot close it any more
+/// spoils nothing, and it ends with the template in any case.
+void WordComposer::close(WordTemplate& document) {
+    std::optional<Error> withoutConsequence;
+    trapFailures(withoutConsequence, [&] {
+        document.Unload();
+        return true;
+    });
 }
 
 bool WordComposer::checkDocFileOpenAndClose(const QString& path) const {

@@ -44,6 +44,7 @@ public:
 private:
     void load(WordTemplate& document);
     void save(WordTemplate& document, const QString& path);
+    static void close(WordTemplate& document);
 
     const ProjectFields& fields_;
     Folders& folders_;

@@ -88,8 +88,10 @@ WordApplication& WordTemplate::word() {
 // ---- marks
 
 bool WordTemplate::findFrom(const QString& text, const Place& start, const Place& end) {
-    if (start || end)
-        word().select(start ? start : word().selectionStart(), end ? end : word().selectionEnd());
+    if (start || end) {
+        const Place from = start ? start : word().selectionStart();
+        word().select(from, end ? end : from);
+    }
     return word().find(text);
 }
 

@@ -209,13 +209,16 @@ TEST_F(WordTemplateTest, all_marks_are_set_once_also_when_the_value_holds_the_ma
 
 TEST_F(WordTemplateTest, a_search_may_begin_elsewhere) {
     load(u"[a] [a] [a] <!--T--> <!--T-->"_s);
-    EXPECT_TRUE(document.SelectItem(u"a"_s, FakeWordProcessor::placeAt(3)));
+    EXPECT_TRUE(document.SelectItem(u"a"_s, FakeWordProcessor::placeAt(5)));
     document.InsertLine();
-    EXPECT_EQ(word.text, u"[a] \r [a] <!--T--> <!--T-->"_s);
+    EXPECT_EQ(word.text, u"[a] [a] \r <!--T--> <!--T-->"_s);
+    EXPECT_TRUE(document.SelectItem(u"a"_s, FakeWordProcessor::placeAt(1)));
+    document.InsertLine();
+    EXPECT_EQ(word.text, u"[a] \r \r <!--T--> <!--T-->"_s);
     EXPECT_TRUE(
         document.SelectTag(u"T"_s, FakeWordProcessor::placeAt(15), FakeWordProcessor::placeAt(16)));
     document.InsertLine();
-    EXPECT_EQ(word.text, u"[a] \r [a] <!--T--> \r"_s);
+    EXPECT_EQ(word.text, u"[a] \r \r <!--T--> \r"_s);
 }
 
 // Figures

@@ -233,7 +233,11 @@ TEST_F(LibreOfficeTest, characters_that_are_no_text_do_no_harm) {
         text += QChar(character); // the last are two halves of a pair, apart
     word->setSelectedText(text + u"end"_s);
     EXPECT_TRUE(word->find(u"end {b}"_s));
+    word->setHeader(u"head\u0001er \u0007of\u0013 all\uFFF9"_s);
     word->saveDocument(path(u"saved.doc"_s));
+    const QString header = u"header of all"_s;
+    const auto* const codes = reinterpret_cast<const char*>(header.utf16());
+    EXPECT_TRUE(contentOf(path(u"saved.doc"_s)).contains(QByteArray(codes, 2 * header.size())));
     word->openDocument(path(u"saved.doc"_s));
     EXPECT_TRUE(word->find(u"{a} \t"_s));
     EXPECT_TRUE(word->find(u"end {b}"_s));

@@ -26,6 +26,18 @@ rtl::OUString toOUString(const QString& text) {
                          static_cast<sal_Int32>(whole.size()));
 }
 
+QString asWriterText(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\r"));
+    text.replace(u'\n', u'\r');
+    const auto isNoText = [](QChar character) {
+        const bool isControl =
+            character.unicode() < u' ' && character != u'\t' && character != u'\r';
+        const bool isAnchor = character.unicode() >= 0xFFF9 && character.unicode() <= 0xFFFB;
+        return isControl || isAnchor;
+    };
+    return text.removeIf(isNoText);
+}
+
 QString toQString(const rtl::OUString& text) {
     return QString(reinterpret_cast<const QChar*>(text.getStr()), text.getLength());
 }

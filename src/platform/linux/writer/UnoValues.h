@@ -14,6 +14,11 @@ namespace css = com::sun::star;
 /// its way between the processes it would end the one that receives it.
 [[nodiscard]] rtl::OUString toOUString(const QString& text);
 
+/// A text as Writer takes it into a document, where a carriage return alone starts a paragraph. The
+/// other control characters, the tab excepted, and those that Writer itself uses to anchor things
+/// in a text, are no text and left out.
+[[nodiscard]] QString asWriterText(QString text);
+
 [[nodiscard]] QString toQString(const rtl::OUString& text);
 
 template <typename Value>

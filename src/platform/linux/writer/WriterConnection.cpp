@@ -40,10 +40,26 @@ void ignoreBrokenPipes() {
 
 } // namespace
 
+WriterConnection::LocalEnd::LocalEnd(UnoCalls& call, const QString& programFolder)
+    : call_(call), context_(call([&] { return localContext(programFolder); })) {
+    ignoreBrokenPipes();
+}
+
+/// What is raised here about an other end that has died is no news any more.
+WriterConnection::LocalEnd::~LocalEnd() {
+    try {
+        call_([&] {
+            const Reference<css::lang::XComponent> component(context_, UNO_QUERY_THROW);
+            component->dispose();
+        });
+    } catch (const Error&) {
+        context_.clear();
+    }
+}
+
 WriterConnection::WriterConnection(WriterProcess& process, UnoCalls& call,
                                    const QString& programFolder)
-    : call_(call), local_(call([&] { return localContext(programFolder); })) {
-    ignoreBrokenPipes();
+    : call_(call), local_(call, programFolder) {
     QElapsedTimer time;
     time.start();
     for (call.watchdog().guard(process.processGroup()); !connect(process);
@@ -57,20 +73,12 @@ WriterConnection::WriterConnection(WriterProcess& process, UnoCalls& call,
     desktop_ = call([&] { return css::frame::Desktop::create(remote_); });
 }
 
-WriterConnection::~WriterConnection() {
-    desktop_.clear();
-    remote_.clear();
-    const Reference<css::lang::XComponent> context(local_, css::uno::UNO_QUERY);
-    if (context.is())
-        context->dispose();
-}
-
 /// False while nobody listens yet.
 bool WriterConnection::connect(const WriterProcess& process) {
     return call_([&] {
         try {
             const Reference<css::bridge::XUnoUrlResolver> resolver =
-                css::bridge::UnoUrlResolver::create(local_);
+                css::bridge::UnoUrlResolver::create(local_.context());
             remote_.set(resolver->resolve(toOUString(process.address())), UNO_QUERY_THROW);
         } catch (const css::connection::NoConnectException&) {
             return false;

@@ -14,10 +14,6 @@ public:
     /// Waits until the process answers. Raises `Error` when it ends before or takes too long.
     /// Owns none of its arguments; all outlive it.
     WriterConnection(WriterProcess& process, UnoCalls& call, const QString& programFolder);
-    ~WriterConnection();
-
-    WriterConnection(const WriterConnection&) = delete;
-    WriterConnection& operator=(const WriterConnection&) = delete;
 
     [[nodiscard]] const css::uno::Reference<css::uno::XComponentContext>& context() const {
         return remote_;
@@ -30,10 +26,28 @@ public:
     [[nodiscard]] QString version() const;
 
 private:
+    /// This program's end of the bridge, and the threads that work there. They are gone with it.
+    class LocalEnd {
+    public:
+        LocalEnd(UnoCalls& call, const QString& programFolder);
+        ~LocalEnd();
+
+        LocalEnd(const LocalEnd&) = delete;
+        LocalEnd& operator=(const LocalEnd&) = delete;
+
+        [[nodiscard]] const css::uno::Reference<css::uno::XComponentContext>& context() const {
+            return context_;
+        }
+
+    private:
+        UnoCalls& call_;
+        css::uno::Reference<css::uno::XComponentContext> context_;
+    };
+
     [[nodiscard]] bool connect(const WriterProcess& process);
 
     UnoCalls& call_;
-    css::uno::Reference<css::uno::XComponentContext> local_;
+    LocalEnd local_; ///< first to come and last to go
     css::uno::Reference<css::uno::XComponentContext> remote_;
     css::uno::Reference<css::frame::XDesktop2> desktop_;
 };

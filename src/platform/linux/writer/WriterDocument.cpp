@@ -116,7 +116,7 @@ void WriterDocument::setHeader(const QString& text) {
     if (!page->getPropertyValue("HeaderIsOn").get<bool>())
         page->setPropertyValue("HeaderIsOn", Any(true));
     const Reference<css::text::XText> header(page->getPropertyValue("HeaderText"), UNO_QUERY_THROW);
-    header->setString(toOUString(text));
+    header->setString(toOUString(asWriterText(text)));
 }
 
 void WriterDocument::setListNumberFormat(int list, int level, const QString& format) {

@@ -21,20 +21,6 @@ using css::uno::UNO_QUERY_THROW;
 
 const rtl::OUString ParagraphStyle("ParaStyleName");
 
-/// The text as Writer takes it, where a carriage return alone starts a paragraph. The other control
-/// characters, and those that Writer itself uses to anchor things in a text, are no text.
-QString asWriterText(QString text) {
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\r"));
-    text.replace(u'\n', u'\r');
-    const auto isNoText = [](QChar character) {
-        const bool isControl =
-            character.unicode() < u' ' && character != u'\t' && character != u'\r';
-        const bool isAnchor = character.unicode() >= 0xFFF9 && character.unicode() <= 0xFFFB;
-        return isControl || isAnchor;
-    };
-    return text.removeIf(isNoText);
-}
-
 } // namespace
 
 WriterSelection::WriterSelection(const Reference<css::text::XTextDocument>& document)
