@@ -1,5 +1,6 @@
 #include "draft/compose/TemplateFile.h"
 
+#include "base/Error.h"
 #include "base/Files.h"
 
 #include <QFile>
@@ -16,9 +17,14 @@ QString writeTemplateFile(const QString& templateName, Folders& folders, const Q
         contentOfFile(QStringLiteral(":/templates/%1.%2").arg(templateName, ending));
     QFile file;
     openPlainFile(file, path);
-    if (!file.resize(0))
-        raiseFileError(file, path);
-    writeAll(file, content, path);
+    try {
+        if (!file.resize(0))
+            raiseFileError(file, path);
+        writeAll(file, content, path);
+    } catch (const Error&) {
+        QFile::remove(path); // half a template serves nobody
+        throw;
+    }
     return path;
 }
 

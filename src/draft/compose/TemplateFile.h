@@ -11,7 +11,7 @@ namespace quillford {
 /// Writes one of the program's templates, "HTMLTEMPLATE" for instance, byte for byte into the
 /// temporary folder, under a name with a random number below 10000 and the ending of the template's
 /// kind, and gives its path. The file stays. Raises `Error` naming the file when it cannot be
-/// written.
+/// written; nothing of it stays then.
 [[nodiscard]] QString writeTemplateFile(const QString& templateName, Folders& folders,
                                         const QString& ending = QStringLiteral("htm"));
 

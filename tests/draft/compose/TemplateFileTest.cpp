@@ -75,6 +75,7 @@ TEST_F(TemplateFileTest, a_full_disk_is_an_error_that_names_the_file) {
         const Error error = errorOf([&] { (void)writeTemplateFile(u"HTMLTEMPLATE"_s, folders); });
         EXPECT_TRUE(error.source().startsWith(folders.temporary + u"/Temp"_s));
         EXPECT_EQ(error.description(), u"File too large"_s);
+        EXPECT_TRUE(QDir(folders.temporary).isEmpty());
     }
 }
 

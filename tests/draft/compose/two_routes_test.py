@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Holds the page against the Word document of each golden case: two_routes_test.py GOLDEN_FOLDER."""
+"""Holds the page against the Word document of each golden case: two_routes_test.py GOLDEN_FOLDER.
+"""
 import sys
 from itertools import zip_longest
 from pathlib import Path
