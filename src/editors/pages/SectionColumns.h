@@ -14,7 +14,7 @@
 namespace quillford {
 
 /// The columns of panels of all sections, each handed to the page that shows it.
-class SectionColumns final : public EditorColumns {
+class SectionColumns : public EditorColumns {
 public:
     /// The pages of Sections 2 to 7. They are not owned and outlive the columns.
     struct Pages {

@@ -18,7 +18,7 @@ protected:
 
     /// Fills the index with so many Main Elements of one line.
     void fill(int elements) {
-        LayoutMainElements(elements);
+        columns->LayoutMainElements(elements);
         fields.cboMainElementNum.setText(QString::number(elements));
         for (int i = 0; i < elements; ++i)
             fields.txtElementName(i).setText(u"hinge"_s);

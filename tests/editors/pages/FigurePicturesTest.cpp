@@ -240,7 +240,7 @@ TEST_F(FigurePicturesTest, the_path_takes_nothing_pasted_dropped_or_composed) {
 }
 
 TEST_F(FigurePicturesTest, a_picture_takes_the_tint_of_its_path_away) {
-    guidance.TextHighLight(FiguresTab);
+    guidance->TextHighLight(FiguresTab);
     EXPECT_TRUE(control<LineField>(u"txtAttachFig", 0).isTinted());
     browse(picture(u"good.png"_s, {40, 20}));
     EXPECT_FALSE(control<LineField>(u"txtAttachFig", 0).isTinted());
@@ -276,11 +276,11 @@ TEST_F(FigurePicturesTest, the_buttons_are_pressed_by_keys_as_well) {
 TEST_F(FigurePicturesTest, a_loaded_figure_is_shown_from_its_working_copy) {
     fields.txtAttachFig(0).loadText(u"/gone/fig.png"_s);
     fields.figureState(0).workingCopy = picture(u"copy.png"_s, {800, 600});
-    columns.showPicture(0);
+    columns->showPicture(0);
     EXPECT_FALSE(saysNoPreview());
     EXPECT_EQ(preview().size(), QSize(128, 96));
     EXPECT_EQ(sizeText(), u"660, 495"_s);
-    columns.removePicture(0);
+    columns->removePicture(0);
     EXPECT_TRUE(saysNoPreview());
     EXPECT_TRUE(preview().isNull());
     EXPECT_EQ(attached(), u"/gone/fig.png"_s);
@@ -289,7 +289,7 @@ TEST_F(FigurePicturesTest, a_loaded_figure_is_shown_from_its_working_copy) {
 TEST_F(FigurePicturesTest, a_working_copy_that_cannot_be_decoded_does_not_leave_the_one_before) {
     browse(picture(u"good.png"_s, {40, 20}));
     fields.figureState(0).workingCopy = file(u"copy.png"_s, "not a picture");
-    columns.showPicture(0);
+    columns->showPicture(0);
     EXPECT_TRUE(preview().isNull());
     EXPECT_FALSE(saysNoPreview());
 }

@@ -1,63 +1,17 @@
 #include "editors/pages/FiguresPageFixture.h"
 
-#include "controls/FormCombo.h"
-#include "controls/FramePanel.h"
-
-#include <QTest>
-#include <QListView>
 #include <QtTest>
 
 #include <algorithm>
 
 namespace quillford {
 
-FiguresPageFixture::FiguresPageFixture() {
-    form_.resize(984, 640);
-    container_.setObjectName(controlName(u"picContainer", FiguresTab));
-    container_.setGeometry(16, 122, 700, 430);
+FiguresPageFixture::FiguresPageFixture()
+    : page(*new PageFigures(addContainer(FiguresTab), fields, bound, order,
+                            {pictures_, pictures_, prompts})) {
     state.currentTab = FiguresTab;
     order.enterTab(FiguresTab, fields);
-    connectSteps();
-    form_.show();
-    form_.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form_));
-}
-
-FiguresPageFixture::~FiguresPageFixture() {
-    bound.disconnect();
-    fields.setObserver(nullptr);
-}
-
-void FiguresPageFixture::connectSteps() {
-    fields.setObserver(&steps);
-    bound.setHooks({{}, [this](int figure) { page.showFigureSentence(figure); }});
-    QObject::connect(&bound, &BoundFields::focusReached,
-                     [this](const FieldPlace& place) { wrap.focusReached(place); });
-    QObject::connect(&bound, &BoundFields::focusLeft,
-                     [this](const FieldPlace& place) { steps.focusLost(place); });
-    QObject::connect(&bound, &BoundFields::chosen,
-                     [this](const FieldPlace& place) { steps.clicked(place); });
-}
-
-void FiguresPageFixture::type(const QString& name, const QString& text) {
-    QWidget& field = control(name);
-    auto* const area = qobject_cast<QAbstractScrollArea*>(&field);
-    QTest::mouseClick(area ? area->viewport() : &field, Qt::LeftButton);
-    QTest::keyClick(&field, Qt::Key_End, area ? Qt::ControlModifier : Qt::NoModifier);
-    QTest::keyClicks(&field, text);
-}
-
-void FiguresPageFixture::choose(const QString& name, const QString& row) {
-    auto& list = control<FormCombo>(name);
-    list.setFocus(Qt::MouseFocusReason);
-    list.showPopup();
-    const int found = list.findText(row, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    ASSERT_GE(found, 0) << row.toStdString() << " is no row of " << name.toStdString();
-    list.view()->setCurrentIndex(list.model()->index(found, 0));
-    QTest::keyClick(list.view(), Qt::Key_Return);
-    // Without a window manager nobody gives the form its activation back.
-    form_.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form_));
+    join({nullptr, nullptr, &page, nullptr, nullptr, nullptr}, screen);
 }
 
 void FiguresPageFixture::clickCount(int count) {
@@ -67,11 +21,6 @@ void FiguresPageFixture::clickCount(int count) {
 void FiguresPageFixture::chooseCount(int count) {
     clickCount(count);
     waitForLayout();
-}
-
-void FiguresPageFixture::waitForLayout() {
-    const auto* timer = timers.findChild<QTimer*>(QStringLiteral("Timer(2)"));
-    ASSERT_TRUE(QTest::qWaitFor([timer] { return !timer->isActive(); }));
 }
 
 void FiguresPageFixture::browse(const QString& path, int figure) {
@@ -109,21 +58,6 @@ QRect FiguresPageFixture::previewPlace(int figure) const {
     const QWidget& picture = control(u"imgFigure", figure);
     const QWidget& square = control(u"shpFigureContain", figure);
     return {square.mapFromGlobal(picture.mapToGlobal(QPoint())), picture.size()};
-}
-
-QStringList FiguresPageFixture::crowded(const QWidget& panel) {
-    QStringList found;
-    QList<QWidget*> parts = panel.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (const QWidget* part : parts)
-        if (!panel.rect().contains(part->geometry()))
-            found.append(part->objectName() + QStringLiteral(" sticks out"));
-    parts.removeIf([](const QWidget* part) { return qobject_cast<const FramePanel*>(part); });
-    for (qsizetype i = 0; i < parts.size(); ++i)
-        for (qsizetype j = 0; j < i; ++j)
-            if (parts[i]->geometry().intersects(parts[j]->geometry()))
-                found.append(parts[i]->objectName() + QStringLiteral(" over ") +
-                             parts[j]->objectName());
-    return found;
 }
 
 } // namespace quillford

@@ -205,7 +205,7 @@ TEST_F(PageDescriptionsTest, the_page_moves_as_a_whole) {
     vscroll(5).setValue(100);
     EXPECT_EQ(topOf(u"picMElements"_s), -100);
     EXPECT_EQ(topOf(u"picfrmMainElementDes(0)"_s), 28);
-    scrollDescriptionsToTop();
+    columns->scrollDescriptionsToTop();
     EXPECT_EQ(topOf(u"picMElements"_s), 0);
     EXPECT_EQ(vscroll(5).value(), 0);
 }
@@ -222,14 +222,14 @@ TEST_F(PageDescriptionsTest, the_end_of_the_page_can_be_scrolled_to) {
 TEST_F(PageDescriptionsTest, refreshing_the_captions_scrolls_the_sub_elements_to_their_top) {
     enterWith(3);
     vscroll(4).setValue(150);
-    RefreshDescriptionCaptions();
+    columns->RefreshDescriptionCaptions();
     EXPECT_EQ(vscroll(4).value(), 0);
     EXPECT_EQ(topOf(u"picElementUsers(0)"_s), 0);
 }
 
 TEST_F(PageDescriptionsTest, refreshing_the_captions_makes_the_panels_of_the_count) {
     fields.cboMainElementNum.setText(u"5"_s);
-    RefreshDescriptionCaptions();
+    columns->RefreshDescriptionCaptions();
     EXPECT_EQ(descriptions->column().panelCount(), 5);
     EXPECT_EQ(fields.panelCount(FieldGroup::Descriptions), 5);
     EXPECT_EQ(label(u"lblDesOfMainElement(4)"_s),

@@ -211,7 +211,7 @@ TEST_F(PageFiguresTest, a_heading_that_is_typed_or_loaded_is_not_told) {
 }
 
 TEST_F(PageFiguresTest, what_is_typed_takes_the_tint_away_and_stays_as_it_was_typed) {
-    guidance.TextHighLight(FiguresTab);
+    guidance->TextHighLight(FiguresTab);
     auto& view = control<FormCombo>(u"cboFigureType", 0);
     auto& detail = control<TextField>(u"txtFigureDetail", 0);
     EXPECT_TRUE(view.isTinted()) << "a heading is no view";
@@ -231,8 +231,8 @@ TEST_F(PageFiguresTest, what_is_typed_takes_the_tint_away_and_stays_as_it_was_ty
 TEST_F(PageFiguresTest, with_no_figure_nothing_is_tinted_and_the_cursor_stays) {
     chooseCount(0);
     control(u"cboFiguresNum"_s).setFocus();
-    guidance.TextHighLight(FiguresTab);
-    guidance.TextgotFocus(FiguresTab);
+    guidance->TextHighLight(FiguresTab);
+    guidance->TextgotFocus(FiguresTab);
     EXPECT_FALSE(control<TextField>(u"txtFigureDetail", 0).isTinted());
     EXPECT_TRUE(control(u"cboFiguresNum"_s).hasFocus());
 }
@@ -247,7 +247,7 @@ TEST_F(PageFiguresTest, a_path_that_leads_nowhere_scrolls_to_the_top_and_moves_n
     ASSERT_TRUE(QFile::remove(fields.txtAttachFig(2).text()));
     vscroll().setValue(200);
     control(u"cboFiguresNum"_s).setFocus();
-    guidance.TextgotFocus(FiguresTab);
+    guidance->TextgotFocus(FiguresTab);
     EXPECT_TRUE(control(u"cboFiguresNum"_s).hasFocus());
     EXPECT_EQ(vscroll().value(), 0);
 }
@@ -285,9 +285,9 @@ TEST_F(PageFiguresTest, the_view_follows_the_tab_key_to_the_button_browse_but_no
 
 TEST_F(PageFiguresTest, a_field_out_of_view_is_brought_into_it_and_one_in_view_stays) {
     chooseCount(3);
-    columns.bringIntoView(FieldId::cboFigureType, 1);
+    columns->bringIntoView(FieldId::cboFigureType, 1);
     EXPECT_EQ(vscroll().value(), 0);
-    columns.bringIntoView(FieldId::txtFigureDetail, 2);
+    columns->bringIntoView(FieldId::txtFigureDetail, 2);
     const QRect detail = control(u"txtFigureDetail", 2).geometry();
     EXPECT_EQ(vscroll().value(), detail.y() + detail.height() + 2 * 245 - 344);
 }

@@ -19,7 +19,7 @@ class PageInventorsTest : public FirstPagesFixture {
 protected:
     PageInventorsTest() {
         go(InventorsTab);
-        layouts.clear();
+        columns->layouts.clear();
     }
 
     void chooseInventors(int count) { chooseCount(u"cboInventorsNum"_s, count); }
@@ -159,9 +159,9 @@ TEST_F(PageInventorsTest, choosing_the_count_that_stands_moves_the_column_to_its
     chooseInventors(3);
     type(u"txtNameStep2(2)"_s, u"Ann"_s);
     vscroll(0).setValue(200);
-    layouts.clear();
+    columns->layouts.clear();
     chooseInventors(3);
-    EXPECT_EQ(layouts, QList<int>{3});
+    EXPECT_EQ(columns->layouts, QList<int>{3});
     EXPECT_EQ(vscroll(0).value(), 0);
     EXPECT_EQ(top(0), 0);
     EXPECT_EQ(shown(u"txtNameStep2(2)"_s), u"Ann"_s);
@@ -171,7 +171,7 @@ TEST_F(PageInventorsTest, two_quick_choices_make_one_layout_with_the_second_coun
     choose(u"cboInventorsNum"_s, u"7"_s);
     choose(u"cboInventorsNum"_s, u"4"_s);
     waitForLayout();
-    EXPECT_EQ(layouts, QList<int>{4});
+    EXPECT_EQ(columns->layouts, QList<int>{4});
     EXPECT_TRUE(isPanelShown(3));
     EXPECT_FALSE(isPanelShown(4));
 }
@@ -361,7 +361,7 @@ TEST_F(PageInventorsTest, required_fields_that_are_empty_or_blank_are_tinted) {
     chooseInventors(2);
     type(u"txtNameStep2(1)"_s, u"Ann"_s);
     type(u"txtLastStep2(1)"_s, u"  "_s);
-    guidance.TextHighLight(InventorsTab);
+    guidance->TextHighLight(InventorsTab);
     EXPECT_FALSE(isTinted(u"txtNameStep2(1)"_s));
     EXPECT_TRUE(isTinted(u"txtLastStep2(1)"_s));
     EXPECT_FALSE(isTinted(u"txtMIStep2(1)"_s));
@@ -371,11 +371,11 @@ TEST_F(PageInventorsTest, required_fields_that_are_empty_or_blank_are_tinted) {
 }
 
 TEST_F(PageInventorsTest, a_filled_field_that_is_emptied_again_stays_white_until_the_next_look) {
-    guidance.TextHighLight(InventorsTab);
+    guidance->TextHighLight(InventorsTab);
     type(u"txtNameStep2(0)"_s, u"A"_s);
     empty(u"txtNameStep2(0)"_s);
     EXPECT_FALSE(isTinted(u"txtNameStep2(0)"_s));
-    guidance.TextHighLight(InventorsTab);
+    guidance->TextHighLight(InventorsTab);
     EXPECT_TRUE(isTinted(u"txtNameStep2(0)"_s));
 }
 
@@ -383,13 +383,13 @@ TEST_F(PageInventorsTest, a_chosen_state_and_any_citizenship_turn_white) {
     chooseInventors(2);
     chooseInventors(1);
     chooseInventors(2);
-    guidance.TextHighLight(InventorsTab);
+    guidance->TextHighLight(InventorsTab);
     EXPECT_TRUE(isTinted(u"cboStateStep2(1)"_s));
     choose(u"cboStateStep2(1)"_s, u"NY"_s);
     EXPECT_FALSE(isTinted(u"cboStateStep2(1)"_s));
     clickTo(u"cboCitizenshipStep2(1)"_s);
     empty(u"cboCitizenshipStep2(1)"_s);
-    guidance.TextHighLight(InventorsTab);
+    guidance->TextHighLight(InventorsTab);
     EXPECT_TRUE(isTinted(u"cboCitizenshipStep2(1)"_s));
     QTest::keyClicks(&control(u"cboCitizenshipStep2(1)"_s), u"M"_s);
     EXPECT_FALSE(isTinted(u"cboCitizenshipStep2(1)"_s));
@@ -405,7 +405,7 @@ TEST_F(PageInventorsTest, a_blank_in_a_locked_first_inventor_scrolls_up_and_move
     answer(true);
     vscroll(0).setValue(300);
     clickTo(u"txtZipStep2(3)"_s);
-    guidance.TextgotFocus(InventorsTab);
+    guidance->TextgotFocus(InventorsTab);
     EXPECT_EQ(vscroll(0).value(), 0);
     EXPECT_EQ(focused(), u"txtZipStep2(3)"_s);
 }
@@ -416,7 +416,7 @@ TEST_F(PageInventorsTest, the_cursor_goes_to_an_empty_field_and_the_column_to_it
         for (const QString& name : NineFields)
             fields.at(findFieldRow(name)->id, i).setText(u"x"_s);
     vscroll(0).setValue(500);
-    guidance.TextgotFocus(InventorsTab);
+    guidance->TextgotFocus(InventorsTab);
     EXPECT_EQ(focused(), u"txtNameStep2(3)"_s);
     EXPECT_EQ(vscroll(0).value(), 0);
 }

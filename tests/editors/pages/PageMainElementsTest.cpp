@@ -16,7 +16,7 @@ class PageMainElementsTest : public ElementPagesFixture {
 protected:
     PageMainElementsTest() {
         go(MainElementsTab);
-        mainElementLayouts.clear();
+        columns->layouts.clear();
     }
 
     int top(int element) { return mainElements->column().panel(element).y(); }
@@ -79,7 +79,7 @@ TEST_F(PageMainElementsTest, choosing_the_count_that_stands_already_moves_the_co
     vscroll(3).setValue(100);
     EXPECT_EQ(top(0), -100);
     chooseCount(3);
-    EXPECT_EQ(mainElementLayouts, QList<int>{3});
+    EXPECT_EQ(columns->layouts, QList<int>{3});
     EXPECT_EQ(top(0), 0);
     EXPECT_EQ(vscroll(3).value(), 0);
 }
@@ -88,7 +88,7 @@ TEST_F(PageMainElementsTest, two_quick_choices_make_one_layout_with_the_second_c
     clickCount(9);
     clickCount(5);
     waitForLayout();
-    EXPECT_EQ(mainElementLayouts, QList<int>{5});
+    EXPECT_EQ(columns->layouts, QList<int>{5});
     EXPECT_EQ(mainElements->column().panelCount(), 5);
 }
 
@@ -247,7 +247,7 @@ TEST_F(PageMainElementsTest, the_count_goes_from_1_to_15_and_back_with_names_of_
 TEST_F(PageMainElementsTest, the_panel_that_has_the_focus_can_be_dropped) {
     type(u"txtElementName(2)"_s, u"hinge"_s);
     control(u"txtElementName(2)"_s).setFocus();
-    LayoutMainElements(1);
+    columns->LayoutMainElements(1);
     EXPECT_EQ(mainElements->column().panelCount(), 1);
 }
 

@@ -17,7 +17,7 @@ protected:
     void enter() {
         go(IntroductionTab);
         go(ObjectsTab);
-        layouts.clear();
+        columns->layouts.clear();
     }
 
     void enterWithTitle(const QString& title) {
@@ -205,9 +205,9 @@ TEST_F(PageObjectsTest, choosing_the_count_that_stands_moves_the_column_to_its_t
     chooseObjects(9);
     vscroll(1).setValue(100);
     EXPECT_EQ(top(0), -100);
-    layouts.clear();
+    columns->layouts.clear();
     chooseObjects(9);
-    EXPECT_EQ(layouts, QList<int>{9});
+    EXPECT_EQ(columns->layouts, QList<int>{9});
     EXPECT_EQ(top(0), 0);
     EXPECT_EQ(vscroll(1).value(), 0);
 }
@@ -217,7 +217,7 @@ TEST_F(PageObjectsTest, two_quick_choices_make_one_layout_with_the_second_count)
     choose(u"cboObjectNum"_s, u"7"_s);
     EXPECT_EQ(objects->column().panelCount(), 4);
     waitForLayout();
-    EXPECT_EQ(layouts, QList<int>{7});
+    EXPECT_EQ(columns->layouts, QList<int>{7});
     EXPECT_EQ(objects->column().panelCount(), 7);
 }
 
@@ -300,7 +300,7 @@ TEST_F(PageObjectsTest, clicking_a_field_out_of_view_moves_nothing) {
 TEST_F(PageObjectsTest, empty_and_blank_fields_are_tinted) {
     type(u"txtObject(1)"_s, u"Text"_s);
     type(u"txtObject(2)"_s, u"   "_s);
-    guidance.TextHighLight(ObjectsTab);
+    guidance->TextHighLight(ObjectsTab);
     EXPECT_TRUE(isTinted(u"txtPurpose"_s));
     EXPECT_TRUE(isTinted(u"txtObject(0)"_s));
     EXPECT_FALSE(isTinted(u"txtObject(1)"_s));
@@ -308,11 +308,11 @@ TEST_F(PageObjectsTest, empty_and_blank_fields_are_tinted) {
 }
 
 TEST_F(PageObjectsTest, a_filled_field_that_is_emptied_again_stays_white_until_the_next_look) {
-    guidance.TextHighLight(ObjectsTab);
+    guidance->TextHighLight(ObjectsTab);
     type(u"txtObject(0)"_s, u"A"_s);
     empty(u"txtObject(0)"_s);
     EXPECT_FALSE(isTinted(u"txtObject(0)"_s));
-    guidance.TextHighLight(ObjectsTab);
+    guidance->TextHighLight(ObjectsTab);
     EXPECT_TRUE(isTinted(u"txtObject(0)"_s));
 }
 
@@ -322,7 +322,7 @@ TEST_F(PageObjectsTest, the_cursor_goes_to_the_first_empty_field_and_the_column_
     for (int i = 0; i < 9; ++i)
         fields.txtObject(i).setText(u"Text"_s);
     vscroll(1).setValue(vscroll(1).maximum());
-    guidance.TextgotFocus(ObjectsTab);
+    guidance->TextgotFocus(ObjectsTab);
     EXPECT_EQ(focused(), u"txtObject(9)"_s);
     EXPECT_EQ(vscroll(1).value(), 0);
 }
@@ -331,7 +331,7 @@ TEST_F(PageObjectsTest, an_empty_purpose_takes_the_cursor_and_scrolls_nothing) {
     chooseObjects(12);
     vscroll(1).setValue(90);
     clickTo(u"txtObject(3)"_s);
-    guidance.TextgotFocus(ObjectsTab);
+    guidance->TextgotFocus(ObjectsTab);
     EXPECT_EQ(focused(), u"txtPurpose"_s);
     EXPECT_EQ(vscroll(1).value(), 90);
 }
@@ -341,7 +341,7 @@ TEST_F(PageObjectsTest, with_all_fields_filled_the_cursor_stays) {
     for (int i = 0; i < 4; ++i)
         type(controlName(u"txtObject", i), u"Text"_s);
     clickTo(u"cboObjectNum"_s);
-    guidance.TextgotFocus(ObjectsTab);
+    guidance->TextgotFocus(ObjectsTab);
     EXPECT_EQ(focused(), u"cboObjectNum"_s);
 }
 

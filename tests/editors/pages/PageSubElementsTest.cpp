@@ -118,7 +118,7 @@ TEST_F(PageSubElementsTest, a_block_may_have_the_focus_when_a_project_with_fewer
     type(u"txtElementSub3(2)"_s, u"pin"_s);
     ASSERT_TRUE(control(u"txtElementSub3(2)"_s).hasFocus());
     fields.setPanelCount(FieldGroup::SubElements, 1);
-    LayoutSubElements(1);
+    columns->LayoutSubElements(1);
     EXPECT_FALSE(exists(u"txtElementSub3(2)"_s));
 }
 
