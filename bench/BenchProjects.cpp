@@ -21,14 +21,19 @@ void run(const QString& program, const QStringList& arguments) {
 
 } // namespace
 
-QList<BenchProject> benchProjects(const QString& folder) {
-    const QString samples = QStringLiteral(QUILLFORD_SAMPLES);
+BenchProject madeProject(const QString& name, const QString& folder, int textBytes) {
     run(QStringLiteral(QUILLFORD_PYTHON),
-        {samples + QStringLiteral("/make_largest_project.py"), folder});
+        {QStringLiteral(QUILLFORD_SAMPLES "/make_largest_project.py"), folder,
+         QStringLiteral("--text-bytes"), QString::number(textBytes)});
+    return {name, folder + QStringLiteral("/largest.json")};
+}
+
+QList<BenchProject> benchProjects(const QString& folder) {
+    constexpr int LargestText = 1000000;
     return {
         {QStringLiteral("folding easel"),
-         samples + QStringLiteral("/folding-easel/folding-easel.json")},
-        {QStringLiteral("largest"), folder + QStringLiteral("/largest.json")},
+         QStringLiteral(QUILLFORD_SAMPLES "/folding-easel/folding-easel.json")},
+        madeProject(QStringLiteral("largest"), folder, LargestText),
     };
 }
 

@@ -13,6 +13,10 @@ struct BenchProject {
     QString path; ///< its JSON form
 };
 
+/// A project with every group of fields at its upper limit and this much text, which is made in
+/// `folder`. Raises `Error` when that fails.
+[[nodiscard]] BenchProject madeProject(const QString& name, const QString& folder, int textBytes);
+
 /// The middling project, which is a sample, and the largest one, which is made in `folder`. Raises
 /// `Error` when that fails.
 [[nodiscard]] QList<BenchProject> benchProjects(const QString& folder);

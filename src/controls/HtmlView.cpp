@@ -1,7 +1,9 @@
 #include "controls/HtmlView.h"
 
 #include "draft/pages/PageText.h"
+#include "draft/pages/RichText.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QFile>
 #include <QFileInfo>
 #include <QScrollBar>
@@ -32,6 +34,9 @@ QString missingPage(const QString& path) {
 
 HtmlView::HtmlView(QWidget* parent) : QTextBrowser(parent), address_(BlankAddress) {
     setUndoRedoEnabled(false);
+    // A layout that knows its device asks for every picture, only to find the device's dots, which
+    // are 96 to the inch; one that knows none takes the size that the page tells.
+    document()->documentLayout()->setPaintDevice(nullptr);
     connect(this, &QTextBrowser::sourceChanged, this, &HtmlView::fileLoaded);
 }
 
@@ -83,6 +88,7 @@ void HtmlView::leaveFile() {
     const QSignalBlocker untold(this);
     QTextBrowser::doSetSource(QUrl(BlankAddress), QTextDocument::HtmlResource);
     clear();
+    document()->setResourceProvider({}); // figures belong to one page
     clearHistory();
 }
 
@@ -95,6 +101,8 @@ PrintJob HtmlView::printJob() const {
 }
 
 QVariant HtmlView::loadResource(int type, const QUrl& name) {
+    if (figureIndex(name.toString()) >= 0)
+        return {}; // the document asks for it
     const QByteArray content = showsFile_ ? localFile(name) : QByteArray();
     if (!content.isEmpty())
         return content;

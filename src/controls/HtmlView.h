@@ -32,7 +32,7 @@ public:
     void back();
 
     /// Shows a page that the program has composed, or any other text in HTML. The pictures of its
-    /// figures are loaded at once.
+    /// figures are loaded when they come into sight: `pictures` outlives what is shown.
     void showHtml(const QString& html, PictureLoader& pictures);
 
     void showBlank();

@@ -244,6 +244,20 @@ TEST_F(HtmlViewTest, a_composed_page_shows_its_figures_in_their_sizes) {
     EXPECT_EQ(high, 80);
 }
 
+TEST_F(HtmlViewTest, a_figure_is_loaded_when_it_comes_into_sight) {
+    view.showHtml(u"<head><title>Project - 1</title></head>"_s + u"<p>line</p>"_s.repeated(100) +
+                      u"<p class=\"drawing\"><img src=\"file:///a.png\" width =\"120\" "
+                      "height =\"80\"> </p>"_s,
+                  pictures);
+    EXPECT_GT(view.document()->size().height(), 100 * 24);
+    view.grab();
+    EXPECT_EQ(pictures.asked, QStringList());
+    view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum());
+    view.grab();
+    view.grab();
+    EXPECT_EQ(pictures.asked, QStringList{u"a.png"_s});
+}
+
 TEST_F(HtmlViewTest, every_line_of_a_composed_page_has_its_place) {
     const QString text = u"<p class=\"text\">"_s + u"words "_s.repeated(150) + u"</p>"_s;
     const QString drawing =

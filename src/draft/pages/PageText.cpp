@@ -1,5 +1,6 @@
 #include "draft/pages/PageText.h"
 
+#include "core/rules/FigureSize.h"
 #include "draft/pages/LongRuns.h"
 #include "draft/pages/RichText.h"
 
@@ -7,8 +8,6 @@
 #include <QPainter>
 #include <QTextCursor>
 #include <QUrl>
-
-#include <optional>
 
 namespace quillford {
 
@@ -27,30 +26,43 @@ QImage frameOf(QSize size) {
     return frame;
 }
 
-/// The first picture in a block.
-std::optional<QTextImageFormat> pictureIn(const QTextBlock& block) {
+bool holdsPicture(const QTextBlock& block) {
     for (auto part = block.begin(); !part.atEnd(); ++part)
         if (part.fragment().charFormat().isImageFormat())
-            return part.fragment().charFormat().toImageFormat();
-    return std::nullopt;
+            return true;
+    return false;
 }
 
-/// Puts a frame in the place of a figure whose picture cannot be read, and scales one for a screen
-/// beforehand, because the toolkit does so without smoothing.
-void fitPicture(QTextDocument& document, const QTextImageFormat& figure, Medium medium) {
-    if (!isFigure(figure.name()))
-        return;
-    const QUrl name(figure.name());
-    const auto picture = document.resource(QTextDocument::ImageResource, name).value<QImage>();
-    const QSizeF size(figure.width(), figure.height());
-    const bool isSized = size.width() > 0 && size.height() > 0;
+/// A figure's picture as the medium needs it; a frame where there is none. For a screen it is
+/// scaled beforehand, because the toolkit does so without smoothing. One of unknown size may have
+/// become readable since the page was composed, and is given the size of any other figure.
+QImage shownPicture(const PageFigure& figure, const QImage& picture, Medium medium) {
+    const QSize size = figure.size;
+    const auto scaledTo = [&](QSize wanted) {
+        return picture.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    };
     if (picture.isNull())
-        document.addResource(QTextDocument::ImageResource, name,
-                             isSized ? frameOf(size.toSize()) : missingPicture());
-    else if (medium == Medium::Screen && isSized)
-        document.addResource(QTextDocument::ImageResource, name,
-                             picture.scaled((size * qGuiApp->devicePixelRatio()).toSize(),
-                                            Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        return size.isEmpty() ? missingPicture() : frameOf(size);
+    if (!size.isValid())
+        return scaledTo(computeFigureSize(picture.size()).expandedTo({1, 1}));
+    if (medium == Medium::Paper || size.isEmpty())
+        return picture;
+    return scaledTo((QSizeF(size) * qGuiApp->devicePixelRatio()).toSize());
+}
+
+/// Has the document load each figure when it is asked for it: on a screen that is when it is drawn,
+/// because nearly all the time in which a draft comes up would go into pictures out of sight.
+void provideFigures(QTextDocument& document, const QList<PageFigure>& figures,
+                    PictureLoader& pictures, Medium medium) {
+    document.setResourceProvider([&document, figures, &pictures, medium](const QUrl& name) {
+        const qsizetype index = figureIndex(name.toString());
+        if (index < 0 || index >= figures.size())
+            return QVariant();
+        const PageFigure& figure = figures[index];
+        const QVariant shown = shownPicture(figure, pictures.picture(figure.path), medium);
+        document.addResource(QTextDocument::ImageResource, name, shown);
+        return shown;
+    });
 }
 
 /// The blanks beside a figure would make its line higher than the figure.
@@ -75,11 +87,9 @@ void separateOnScreen(const QTextBlock& block) {
     QTextCursor(block).mergeBlockFormat(apart);
 }
 
-void finishBlock(QTextDocument& document, const QTextBlock& block, Medium medium) {
-    if (const auto figure = pictureIn(block)) {
-        fitPicture(document, *figure, medium);
+void finishBlock(const QTextBlock& block, Medium medium) {
+    if (holdsPicture(block))
         shrinkBlanks(block);
-    }
     if (medium == Medium::Screen && beginsPage(block))
         separateOnScreen(block);
 }
@@ -89,15 +99,14 @@ void finishBlock(QTextDocument& document, const QTextBlock& block, Medium medium
 void setPage(QTextDocument& document, const QString& page, PictureLoader& pictures, Medium medium) {
     const RichText text = richTextOf(page);
     document.setUndoRedoEnabled(false);
+    document.clear(); // the pictures of the page before, too
     document.setDefaultStyleSheet(text.styleSheet);
+    provideFigures(document, text.figures, pictures, medium);
     document.setHtml(text.html);
-    for (qsizetype i = 0; i < text.pictures.size(); ++i)
-        document.addResource(QTextDocument::ImageResource, QUrl(pictureName(i)),
-                             pictures.picture(text.pictures[i]));
     QTextCursor edit(&document);
     edit.beginEditBlock(); // a document on screen is laid out anew at the end of the block, once
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
-        finishBlock(document, block, medium);
+        finishBlock(block, medium);
     breakLongRuns(document);
     edit.endEditBlock();
 }

@@ -1,6 +1,7 @@
 #include "draft/pages/PaperText.h"
 
 #include "draft/pages/PageText.h"
+#include "draft/pages/RichText.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QDir>
@@ -29,6 +30,8 @@ public:
 
 protected:
     QVariant loadResource(int type, const QUrl& name) override {
+        if (figureIndex(name.toString()) >= 0)
+            return {};
         const bool isLocal = name.isRelative() || name.isLocalFile();
         QFile file(QDir(folder_).filePath(name.path()));
         if (folder_.isEmpty() || !isLocal || !QFileInfo(file).isFile() ||

@@ -4,11 +4,15 @@
 #include <QRegularExpression>
 #include <QStringView>
 
+#include <optional>
+
 namespace quillford {
 
 namespace {
 
 const QString PictureScheme = QStringLiteral("picture:");
+constexpr QStringView FigureStart = u"<img src=\"file:///";
+constexpr int LongestSide = 810; // of a figure in the draft, in pixels
 
 QString styleSheet(const QString& name) {
     QFile file(QStringLiteral(":/pages/") + name);
@@ -36,37 +40,68 @@ void cutStyle(QString& html) {
         html.remove(begin, end + close.size() - begin);
 }
 
-/// Gives every figure a name instead of its path, which ends where its width begins, whatever it
-/// holds. A size that is not known is left out.
-void namePictures(RichText& text) {
-    const QStringView before = u"<img src=\"file:///";
+/// A length as the composer writes it.
+std::optional<int> lengthIn(QStringView text) {
+    bool isNumber = false;
+    const int length = text.toInt(&isNumber);
+    return isNumber && length >= 0 && length <= LongestSide ? std::optional(length) : std::nullopt;
+}
+
+/// A figure's tag in a page.
+struct FigureTag {
+    PageFigure figure;
+    qsizetype end; ///< the character behind it
+};
+
+/// Reads the tag whose path begins here. The path ends where the width begins, whatever it holds.
+/// Nothing for a tag that the composer has not written: it is left to the toolkit.
+std::optional<FigureTag> figureTagAt(QStringView html, qsizetype path) {
     const QStringView width = u"\" width =\"";
     const QStringView height = u"\" height =\"";
     const QStringView after = u"\">";
-    const QString& html = text.html;
+    const qsizetype pathEnd = html.indexOf(width, path);
+    const qsizetype heightAt = pathEnd < 0 ? -1 : html.indexOf(height, pathEnd + width.size());
+    const qsizetype end = heightAt < 0 ? -1 : html.indexOf(after, heightAt + height.size());
+    if (end < 0)
+        return std::nullopt;
+    const QStringView wide = html.sliced(pathEnd, heightAt - pathEnd).sliced(width.size());
+    const QStringView high = html.sliced(heightAt, end - heightAt).sliced(height.size());
+    FigureTag tag{{html.sliced(path, pathEnd - path).toString(), {}}, end + after.size()};
+    if (tag.figure.path.contains(FigureStart))
+        return std::nullopt;
+    if (wide.isEmpty() && high.isEmpty())
+        return tag;
+    const auto columns = lengthIn(wide);
+    const auto rows = lengthIn(high);
+    if (!columns || !rows)
+        return std::nullopt;
+    tag.figure.size = QSize(*columns, *rows);
+    return tag;
+}
+
+/// Gives every figure a name instead of its path. A size that is not known is left out.
+void nameFigures(RichText& text) {
+    const QStringView html = text.html;
     QString named;
     qsizetype done = 0;
-    for (qsizetype at = html.indexOf(before); at >= 0; at = html.indexOf(before, done)) {
-        const qsizetype path = at + before.size();
-        const qsizetype pathEnd = html.indexOf(width, path);
-        const qsizetype heightAt = pathEnd < 0 ? -1 : html.indexOf(height, pathEnd + width.size());
-        const qsizetype end = heightAt < 0 ? -1 : html.indexOf(after, heightAt + height.size());
-        if (end < 0)
-            break;
-        named += QStringView(html).sliced(done, at - done);
-        named += QStringLiteral("<img src=\"%1\"").arg(pictureName(text.pictures.size()));
-        text.pictures.append(html.sliced(path, pathEnd - path));
-        const auto addLength = [&](QStringView name, qsizetype from, qsizetype to) {
-            if (to > from)
-                named += QStringLiteral(" %1=\"%2\"")
-                             .arg(name, QStringView(html).sliced(from, to - from));
-        };
-        addLength(u"width", pathEnd + width.size(), heightAt);
-        addLength(u"height", heightAt + height.size(), end);
+    for (qsizetype at = html.indexOf(FigureStart); at >= 0; at = html.indexOf(FigureStart, done)) {
+        named += html.sliced(done, at - done);
+        done = at + FigureStart.size();
+        const auto tag = figureTagAt(html, done);
+        if (!tag) {
+            named += FigureStart;
+            continue;
+        }
+        const QSize size = tag->figure.size;
+        named += QStringLiteral("<img src=\"%1\"").arg(pictureName(text.figures.size()));
+        if (size.isValid())
+            named += QStringLiteral(" width=\"%1\" height=\"%2\"")
+                         .arg(QString::number(size.width()), QString::number(size.height()));
         named += u'>';
-        done = end + after.size();
+        text.figures.append(tag->figure);
+        done = tag->end;
     }
-    named += QStringView(html).sliced(done);
+    named += html.sliced(done);
     text.html = named;
 }
 
@@ -150,8 +185,10 @@ QString pictureName(qsizetype index) {
     return PictureScheme + QString::number(index);
 }
 
-bool isFigure(const QString& name) {
-    return name.startsWith(PictureScheme);
+qsizetype figureIndex(const QString& name) {
+    bool isNumber = false;
+    const qsizetype index = QStringView(name).mid(PictureScheme.size()).toInt(&isNumber);
+    return isNumber && name.startsWith(PictureScheme) ? index : -1;
 }
 
 RichText richTextOf(const QString& page) {
@@ -162,7 +199,7 @@ RichText richTextOf(const QString& page) {
     text.styleSheet = styleSheet(kind == PageKind::Report ? QStringLiteral("report.css")
                                                           : QStringLiteral("draft.css"));
     cutStyle(text.html);
-    namePictures(text);
+    nameFigures(text);
     markNewPages(text.html);
     splitObjects(text.html);
     frameNotice(text.html);

@@ -7,6 +7,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QElapsedTimer>
 #include <QFontInfo>
+#include <QPainter>
 #include <QTextBlock>
 #include <QUrl>
 
@@ -91,11 +92,37 @@ TEST_F(PageTextTest, a_figure_is_drawn_in_its_computed_size_whatever_its_picture
     loader.pictures[u"/nowhere/fig1.png"_s] = QImage(10, 10, QImage::Format_RGB32);
     fields.figureState(0).workingCopy = u"/nowhere/fig1.png"_s;
     show(preview());
-    EXPECT_EQ(loader.asked, QStringList{u"/nowhere/fig1.png"_s});
     const auto figure = drawing().begin().fragment().charFormat().toImageFormat();
     EXPECT_EQ(QSizeF(figure.width(), figure.height()), QSizeF(660, 500));
     document.setTextWidth(624);
     EXPECT_NEAR(document.documentLayout()->blockBoundingRect(drawing()).height(), 500, 1);
+}
+
+TEST_F(PageTextTest, a_figure_is_loaded_when_it_is_drawn_for_the_first_time) {
+    fields.figureState(0).workingCopy = u"/nowhere/fig1.png"_s;
+    fields.figureState(0).sizeText = u"300, 200"_s;
+    show(preview(), Medium::Screen);
+    document.setTextWidth(624);
+    EXPECT_GT(document.size().height(), 2000);
+    EXPECT_EQ(loader.asked, QStringList()) << "laid out, not drawn";
+    QImage paper(10, 10, QImage::Format_RGB32);
+    for (int drawing = 0; drawing < 2; ++drawing) {
+        QPainter painter(&paper);
+        document.drawContents(&painter);
+    }
+    EXPECT_EQ(loader.asked, QStringList{u"/nowhere/fig1.png"_s});
+}
+
+TEST_F(PageTextTest, a_page_forgets_the_pictures_of_the_page_before) {
+    fields.figureState(0).sizeText = u"300, 200"_s;
+    const auto shown = [&] {
+        show(preview(), Medium::Screen);
+        return document.resource(QTextDocument::ImageResource, QUrl(u"picture:0"_s))
+            .value<QImage>();
+    };
+    EXPECT_EQ(shown().size(), QSize(300, 200));
+    fields.figureState(0).sizeText = u"30, 20"_s;
+    EXPECT_EQ(shown().size(), QSize(30, 20));
 }
 
 TEST_F(PageTextTest, a_picture_that_cannot_be_read_leaves_a_frame_of_its_size) {

@@ -95,7 +95,7 @@ TEST_F(RichTextTest, a_figure_s_path_is_taken_as_it_stands) {
     fields.txtAttachFig(0).setText(path);
     fields.figureState(0).sizeText = u"120, 80"_s;
     const RichText text = draft();
-    EXPECT_EQ(text.pictures, QStringList{path});
+    EXPECT_EQ(text.figures, QList{(PageFigure{path, QSize(120, 80)})});
     EXPECT_TRUE(text.html.contains(u"<img src=\"picture:0\" width=\"120\" height=\"80\"> "))
         << qPrintable(text.html);
 }
@@ -106,15 +106,35 @@ TEST_F(RichTextTest, a_size_that_is_not_known_is_left_out) {
 
 TEST_F(RichTextTest, every_figure_has_its_picture) {
     setCount(fields, FieldGroup::Figures, 12);
-    QStringList paths;
+    QList<PageFigure> figures;
     for (int i = 0; i < 12; ++i) {
-        paths.append(this->path(u"fig%1.png"_s.arg(i)));
-        writeFile(paths.last());
-        fields.txtAttachFig(i).setText(paths.last());
+        figures.append({this->path(u"fig%1.png"_s.arg(i)), {}});
+        writeFile(figures.last().path);
+        fields.txtAttachFig(i).setText(figures.last().path);
     }
     const RichText text = draft();
-    EXPECT_EQ(text.pictures, paths);
+    EXPECT_EQ(text.figures, figures);
     EXPECT_TRUE(text.html.contains(u"<img src=\"picture:11\"> "));
+}
+
+TEST_F(RichTextTest, a_typed_tag_that_is_no_figure_s_leaves_the_figures_alone) {
+    for (const QString& typed : {u"<img src=\"file:///a.png"_s, u"<img src=\"file:///a.png\">"_s,
+                                 u"<img src=\"file:///a.png\" width =\"100000\" height =\"9\">"_s,
+                                 u"<img src=\"file:///a.png\" width =\"-1\" height =\"x\">"_s,
+                                 u"<img src=\"file:///a.png\" width =\""_s}) {
+        fields.txtPurpose.setText(typed);
+        const RichText text = draft();
+        EXPECT_EQ(text.figures.size(), 1) << qPrintable(typed);
+        EXPECT_TRUE(text.html.contains(typed)) << qPrintable(typed);
+        EXPECT_TRUE(text.html.contains(u"<img src=\"picture:0\">")) << qPrintable(typed);
+    }
+}
+
+TEST_F(RichTextTest, a_picture_s_name_tells_its_index) {
+    EXPECT_EQ(figureIndex(pictureName(12)), 12);
+    EXPECT_EQ(figureIndex(u"picture:"_s), -1);
+    EXPECT_EQ(figureIndex(u"picture:x"_s), -1);
+    EXPECT_EQ(figureIndex(u"pictureX0"_s), -1);
 }
 
 TEST_F(RichTextTest, line_breaks_between_drawings_take_no_room_and_others_are_an_empty_line) {
