@@ -1,12 +1,12 @@
 #include "BenchDraft.h"
 #include "BenchProjects.h"
-#include "Chromium.h"
 #include "PairedTimes.h"
 #include "base/Error.h"
 #include "controls/HtmlView.h"
 #include "draft/commands/PageSetup.h"
 #include "draft/pages/PdfFile.h"
 #include "platform/linux/QtPictureReader.h"
+#include "support/Chromium.h"
 
 #include <QApplication>
 #include <QRegularExpression>

@@ -1,5 +1,6 @@
 #include "draft/pages/PageText.h"
 
+#include "base/Text.h"
 #include "core/rules/FigureSize.h"
 #include "draft/pages/LongRuns.h"
 #include "draft/pages/RichText.h"
@@ -65,12 +66,15 @@ void provideFigures(QTextDocument& document, const QList<PageFigure>& figures,
     });
 }
 
-/// The blanks beside a figure would make its line higher than the figure.
-void shrinkBlanks(const QTextBlock& block) {
+/// A line is as high as its picture, and no higher for the blanks beside it.
+void makeRoomForPicture(const QTextBlock& block) {
     QTextCursor cursor(block);
+    QTextBlockFormat high;
+    high.setLineHeight(block.blockFormat().lineHeight(), QTextBlockFormat::MinimumHeight);
+    cursor.mergeBlockFormat(high);
     for (auto part = block.begin(); !part.atEnd(); ++part) {
         const QTextFragment fragment = part.fragment();
-        if (fragment.charFormat().isImageFormat())
+        if (fragment.charFormat().isImageFormat() || !isBlank(fragment.text()))
             continue;
         cursor.setPosition(fragment.position());
         cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
@@ -78,6 +82,13 @@ void shrinkBlanks(const QTextBlock& block) {
         small.setFontPointSize(1);
         cursor.mergeCharFormat(small);
     }
+}
+
+/// A rule is a paragraph of its own colour. On a screen it is a row of dots, which stays sharp.
+void thinRule(const QTextBlock& block) {
+    QTextBlockFormat thin;
+    thin.setLineHeight(1, QTextBlockFormat::FixedHeight);
+    QTextCursor(block).mergeBlockFormat(thin);
 }
 
 void separateOnScreen(const QTextBlock& block) {
@@ -89,9 +100,11 @@ void separateOnScreen(const QTextBlock& block) {
 
 void finishBlock(const QTextBlock& block, Medium medium) {
     if (holdsPicture(block))
-        shrinkBlanks(block);
+        makeRoomForPicture(block);
     if (medium == Medium::Screen && beginsPage(block))
         separateOnScreen(block);
+    if (medium == Medium::Screen && block.blockFormat().background().style() != Qt::NoBrush)
+        thinRule(block);
 }
 
 } // namespace
@@ -102,9 +115,9 @@ void setPage(QTextDocument& document, const QString& page, PictureLoader& pictur
     document.clear(); // the pictures of the page before, too
     document.setDefaultStyleSheet(text.styleSheet);
     provideFigures(document, text.figures, pictures, medium);
-    document.setHtml(text.html);
     QTextCursor edit(&document);
-    edit.beginEditBlock(); // a document on screen is laid out anew at the end of the block, once
+    edit.beginEditBlock(); // a document on screen is laid out at the end of the block, once
+    document.setHtml(text.html);
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
         finishBlock(block, medium);
     breakLongRuns(document);

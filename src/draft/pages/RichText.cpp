@@ -131,14 +131,14 @@ void frameNotice(QString& html) {
     const QRegularExpressionMatch match = notice.match(html);
     if (!match.hasMatch())
         return;
-    html.replace(
-        match.capturedStart(), match.capturedLength(),
-        QStringLiteral("<p class=\"space\">&nbsp;</p>"
-                       "<table width=\"100%\" border=\"3\" cellspacing=\"0\" cellpadding=\"12\" "
-                       "style=\"margin-left:-3px; margin-right:-3px; border-style:solid; "
-                       "border-color:black; border-collapse:collapse\">"
-                       "<tr><td class=\"notice\">") +
-            match.captured(1) + QStringLiteral("</td></tr></table><p class=\"space\">&nbsp;</p>"));
+    html.replace(match.capturedStart(), match.capturedLength(),
+                 QStringLiteral("<p class=\"space\">&nbsp;</p>"
+                                "<table width=\"100%\" border=\"3\" cellspacing=\"0\" "
+                                "style=\"margin-left:-3px; margin-right:-3px; border-style:solid; "
+                                "border-color:black; border-collapse:collapse\">"
+                                "<tr><td class=\"notice\">") +
+                     match.captured(1) +
+                     QStringLiteral("</td></tr></table><p class=\"space\">&nbsp;</p>"));
 }
 
 /// A paragraph without text has no height, but the toolkit gives its looks to the next one.

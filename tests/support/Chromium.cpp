@@ -1,4 +1,4 @@
-#include "Chromium.h"
+#include "support/Chromium.h"
 
 #include "base/Error.h"
 
@@ -7,7 +7,7 @@
 #include <QUrl>
 
 #include <array>
-#include <cerrno>
+#include <cmath>
 #include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
@@ -120,15 +120,34 @@ void Chromium::openPage() {
     call(QStringLiteral("Page.enable"));
 }
 
-void Chromium::load(const QString& path) {
+int Chromium::load(const QString& path) {
     isLoaded_ = false;
     call(QStringLiteral("Page.navigate"),
          {{QStringLiteral("url"), QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)}});
     while (!isLoaded_)
         received();
     // Asking for the height has the browser lay out what it has put off.
-    call(QStringLiteral("Runtime.evaluate"),
-         {{QStringLiteral("expression"), QStringLiteral("document.documentElement.scrollHeight")}});
+    const QJsonObject answer =
+        call(QStringLiteral("Runtime.evaluate"),
+             {{QStringLiteral("expression"),
+               QStringLiteral("document.documentElement.getBoundingClientRect().height")}});
+    const QJsonObject height = answer.value(QStringLiteral("result")).toObject();
+    return static_cast<int>(std::ceil(height.value(QStringLiteral("value")).toDouble()));
+}
+
+QImage Chromium::picture(const QRect& part) {
+    const QJsonObject clip{
+        {QStringLiteral("x"), part.x()},
+        {QStringLiteral("y"), part.y()},
+        {QStringLiteral("width"), part.width()},
+        {QStringLiteral("height"), part.height()},
+        {QStringLiteral("scale"), 1},
+    };
+    const QJsonObject answer =
+        call(QStringLiteral("Page.captureScreenshot"),
+             {{QStringLiteral("clip"), clip}, {QStringLiteral("captureBeyondViewport"), true}});
+    return QImage::fromData(
+        QByteArray::fromBase64(answer.value(QStringLiteral("data")).toString().toLatin1()));
 }
 
 QByteArray Chromium::printed() {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QImage>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRect>
 #include <QString>
 
 namespace quillford {
@@ -20,8 +22,13 @@ public:
     ~Chromium();
     Q_DISABLE_COPY_MOVE(Chromium)
 
-    /// Loads the file, and returns when it is loaded with its pictures and laid out whole.
-    void load(const QString& path);
+    /// Loads the file, and returns when it is loaded with its pictures and laid out whole; gives
+    /// the height of the page in pixels.
+    int load(const QString& path);
+
+    /// A part of the page that was loaded, as it stands on the screen, 1 pixel for 1 of the page.
+    /// May be outside of the window, and up to 16000 pixels high.
+    [[nodiscard]] QImage picture(const QRect& part);
 
     /// Prints the page that was loaded; gives the PDF file's bytes.
     [[nodiscard]] QByteArray printed();
