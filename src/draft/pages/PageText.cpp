@@ -84,13 +84,6 @@ void makeRoomForPicture(const QTextBlock& block) {
     }
 }
 
-/// A rule is a paragraph of its own colour. On a screen it is a row of dots, which stays sharp.
-void thinRule(const QTextBlock& block) {
-    QTextBlockFormat thin;
-    thin.setLineHeight(1, QTextBlockFormat::FixedHeight);
-    QTextCursor(block).mergeBlockFormat(thin);
-}
-
 void separateOnScreen(const QTextBlock& block) {
     constexpr int Gap = 64;
     QTextBlockFormat apart;
@@ -103,8 +96,6 @@ void finishBlock(const QTextBlock& block, Medium medium) {
         makeRoomForPicture(block);
     if (medium == Medium::Screen && beginsPage(block))
         separateOnScreen(block);
-    if (medium == Medium::Screen && block.blockFormat().background().style() != Qt::NoBrush)
-        thinRule(block);
 }
 
 } // namespace

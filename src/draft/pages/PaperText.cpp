@@ -181,11 +181,29 @@ double PaperText::drawRestOfParagraph(QPainter& painter, const PageCut& cut) con
     return std::min(end + Touch, cut.bottom);
 }
 
+/// Where the blocks end that the part holds. High letters stand above the space of their line, and
+/// the layout would draw the first line below the part for their sake, unseen as well.
+double PaperText::endOfBlocks(const PageCut& cut) const {
+    const auto& layout = *document_->documentLayout();
+    QTextBlock block = document_->findBlock(layout.hitTest(QPointF(0, cut.bottom), Qt::FuzzyHit));
+    for (int i = 0; i < 2 && block.isValid(); block = block.next(), ++i) {
+        const bool isInTable = document_->frameAt(block.position()) != document_->rootFrame();
+        if (isInTable || block.layout()->lineCount() == 0)
+            continue;
+        const double top = layout.blockBoundingRect(block).top();
+        const Band first = bandOf(block, block.layout()->lineAt(0), top);
+        if (first.top >= cut.bottom - Touch)
+            return std::min(cut.bottom, top + block.layout()->boundingRect().top() - Touch);
+    }
+    return cut.bottom;
+}
+
 void PaperText::draw(QPainter& painter, const PageCut& cut, double margin) const {
     QRectF part(-margin, cut.top, Width + 2 * margin, cut.bottom - cut.top);
     painter.setClipRect(part);
     painter.setPen(Qt::black);
     part.setTop(drawRestOfParagraph(painter, cut));
+    part.setBottom(endOfBlocks(cut));
     QAbstractTextDocumentLayout::PaintContext context;
     context.clip = part;
     context.palette.setColor(QPalette::Text, Qt::black);

@@ -34,6 +34,7 @@ public:
 
 private:
     double drawRestOfParagraph(QPainter& painter, const PageCut& cut) const;
+    [[nodiscard]] double endOfBlocks(const PageCut& cut) const;
 
     QImage device_; ///< tells the layout how many steps make an inch
     std::unique_ptr<QTextDocument> document_;

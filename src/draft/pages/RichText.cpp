@@ -147,8 +147,11 @@ void dropEmptyParagraphs(QString& html) {
     html.remove(empty);
 }
 
-/// What stands between two paragraphs would become a blank at the end of the first.
-void cutBetweenParagraphs(QString& html) {
+/// Blanks at the end of a paragraph would push what is centred to the left, and what stands between
+/// two paragraphs would become such a blank.
+void cutBlanksBehindText(QString& html) {
+    static const QRegularExpression behindText(QStringLiteral("(?<!\\s)\\s+</p>"));
+    html.replace(behindText, QStringLiteral("</p>"));
     static const QRegularExpression between(QStringLiteral("</(p|div)>\\s+(?=<)"));
     html.replace(between, QStringLiteral("</\\1>"));
 }
@@ -205,7 +208,7 @@ RichText richTextOf(const QString& page) {
     frameNotice(text.html);
     keepEmptyLines(text.html);
     dropEmptyParagraphs(text.html);
-    cutBetweenParagraphs(text.html);
+    cutBlanksBehindText(text.html);
     alignParagraphs(text.html, kind);
     return text;
 }

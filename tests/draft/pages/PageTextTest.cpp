@@ -138,7 +138,7 @@ TEST_F(PageTextTest, a_picture_that_cannot_be_read_leaves_a_frame_of_its_size) {
 TEST_F(PageTextTest, an_element_without_a_name_keeps_its_line) {
     show(preview());
     const QTextBlock clip = block(u"20:   Clip"_s);
-    EXPECT_EQ(clip.next().text(), u"21:   Spring "_s);
+    EXPECT_EQ(clip.next().text(), u"21:   Spring"_s);
     EXPECT_EQ(clip.next().next().text(), QString(QChar::Nbsp));
     EXPECT_EQ(clip.next().blockFormat().lineHeight(), 16);
 }

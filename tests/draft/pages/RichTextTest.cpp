@@ -96,12 +96,12 @@ TEST_F(RichTextTest, a_figure_s_path_is_taken_as_it_stands) {
     fields.figureState(0).sizeText = u"120, 80"_s;
     const RichText text = draft();
     EXPECT_EQ(text.figures, QList{(PageFigure{path, QSize(120, 80)})});
-    EXPECT_TRUE(text.html.contains(u"<img src=\"picture:0\" width=\"120\" height=\"80\"> "))
+    EXPECT_TRUE(text.html.contains(u"<img src=\"picture:0\" width=\"120\" height=\"80\"></p>"))
         << qPrintable(text.html);
 }
 
 TEST_F(RichTextTest, a_size_that_is_not_known_is_left_out) {
-    EXPECT_TRUE(draft().html.contains(u"<img src=\"picture:0\"> "));
+    EXPECT_TRUE(draft().html.contains(u"<img src=\"picture:0\"></p>"));
 }
 
 TEST_F(RichTextTest, every_figure_has_its_picture) {
@@ -114,7 +114,7 @@ TEST_F(RichTextTest, every_figure_has_its_picture) {
     }
     const RichText text = draft();
     EXPECT_EQ(text.figures, figures);
-    EXPECT_TRUE(text.html.contains(u"<img src=\"picture:11\"> "));
+    EXPECT_TRUE(text.html.contains(u"<img src=\"picture:11\"></p>"));
 }
 
 TEST_F(RichTextTest, a_typed_tag_that_is_no_figure_s_leaves_the_figures_alone) {
