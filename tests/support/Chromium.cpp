@@ -64,7 +64,7 @@ bool Chromium::isInstalled() {
     return !browser().isEmpty();
 }
 
-Chromium::Chromium(const QString& folder, int width, int height) {
+Chromium::Chromium(const QString& folder, int width, int height) : width_(width) {
     start(folder, width, height);
     openPage();
 }
@@ -96,7 +96,8 @@ void Chromium::start(const QString& folder, int width, int height) {
          QStringLiteral("--disable-gpu"), QStringLiteral("--disable-background-networking"),
          QStringLiteral("--disable-component-update"), QStringLiteral("--disable-sync"),
          QStringLiteral("--disable-extensions"), QStringLiteral("--disable-dev-shm-usage"),
-         QStringLiteral("--no-first-run"), QStringLiteral("--host-resolver-rules=MAP * ~NOTFOUND"),
+         QStringLiteral("--no-first-run"), QStringLiteral("--hide-scrollbars"),
+         QStringLiteral("--host-resolver-rules=MAP * ~NOTFOUND"),
          QStringLiteral("--remote-debugging-pipe"),
          QStringLiteral("--user-data-dir=%1/profile").arg(folder),
          QStringLiteral("--window-size=%1,%2").arg(width).arg(height)});
@@ -135,25 +136,17 @@ int Chromium::load(const QString& path) {
     return static_cast<int>(std::ceil(height.value(QStringLiteral("value")).toDouble()));
 }
 
-QImage Chromium::picture(const QRect& part) {
-    const QJsonObject clip{
-        {QStringLiteral("x"), part.x()},
-        {QStringLiteral("y"), part.y()},
-        {QStringLiteral("width"), part.width()},
-        {QStringLiteral("height"), part.height()},
-        {QStringLiteral("scale"), 1},
-    };
-    const QJsonObject answer =
-        call(QStringLiteral("Page.captureScreenshot"),
-             {{QStringLiteral("clip"), clip}, {QStringLiteral("captureBeyondViewport"), true}});
+QImage Chromium::picture(int top, int height) {
+    call(QStringLiteral("Emulation.setDeviceMetricsOverride"),
+         {{QStringLiteral("width"), width_},
+          {QStringLiteral("height"), height},
+          {QStringLiteral("deviceScaleFactor"), 1},
+          {QStringLiteral("mobile"), false}});
+    call(QStringLiteral("Runtime.evaluate"),
+         {{QStringLiteral("expression"), QStringLiteral("scrollTo(0, %1)").arg(top)}});
+    const QJsonObject answer = call(QStringLiteral("Page.captureScreenshot"));
     return QImage::fromData(
         QByteArray::fromBase64(answer.value(QStringLiteral("data")).toString().toLatin1()));
-}
-
-QByteArray Chromium::printed() {
-    const QJsonObject answer =
-        call(QStringLiteral("Page.printToPDF"), {{QStringLiteral("preferCSSPageSize"), true}});
-    return QByteArray::fromBase64(answer.value(QStringLiteral("data")).toString().toLatin1());
 }
 
 QJsonObject Chromium::call(const QString& method, const QJsonObject& parameters) {

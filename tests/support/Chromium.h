@@ -4,7 +4,6 @@
 #include <QImage>
 #include <QJsonObject>
 #include <QProcess>
-#include <QRect>
 #include <QString>
 
 namespace quillford {
@@ -26,9 +25,9 @@ public:
     /// the height of the page in pixels.
     int load(const QString& path);
 
-    /// A part of the page that was loaded, as it stands on the screen, 1 pixel for 1 of the page.
-    /// May be outside of the window, and up to 16000 pixels high.
-    [[nodiscard]] QImage picture(const QRect& part);
+    /// What stands in the window, made this high, when the page that was loaded is scrolled by
+    /// `top`, 1 pixel for 1 of the page. Up to 16000 pixels high.
+    [[nodiscard]] QImage picture(int top, int height);
 
     /// Prints the page that was loaded; gives the PDF file's bytes.
     [[nodiscard]] QByteArray printed();
@@ -42,6 +41,7 @@ private:
     void send(const QJsonObject& message) const;
     QJsonObject received(); ///< waits for the next message
 
+    int width_;
     QProcess process_;
     int commands_ = -1; ///< what is written here comes to the browser
     int answers_ = -1;  ///< what the browser says

@@ -27,7 +27,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int LongestPicture = 16000;
+constexpr int LongestPicture = 12000;
 
 HtmlView& previewOf(QWidget& form) {
     form.findChild<ClickLabel*>(u"picTab(8)"_s)->click();
@@ -85,7 +85,8 @@ QImage sideBySide(const HtmlView& view, Chromium& chromium, int theirHeight) {
         if (i < ours.size())
             painter.drawImage(0, top, shown(view, ours[i]));
         if (i < theirs.size())
-            painter.drawImage(width + Gap, top, chromium.picture(theirs[i]));
+            painter.drawImage(width + Gap, top,
+                              chromium.picture(theirs[i].top(), theirs[i].height()));
         top += std::max(ours.value(i).height(), theirs.value(i).height()) + Gap;
     }
     return both;

@@ -84,6 +84,18 @@ void makeRoomForPicture(const QTextBlock& block) {
     }
 }
 
+/// A rule is the ground of a paragraph without text, which is two dots high where the lowest type
+/// is. On a screen the upper half of it is enough.
+void thinRule(const QTextBlock& block) {
+    QLinearGradient upperHalf(0, 0, 0, 1);
+    upperHalf.setCoordinateMode(QGradient::ObjectMode);
+    upperHalf.setColorAt(0.5, block.blockFormat().background().color());
+    upperHalf.setColorAt(0.51, Qt::transparent);
+    QTextBlockFormat thin;
+    thin.setBackground(upperHalf);
+    QTextCursor(block).mergeBlockFormat(thin);
+}
+
 void separateOnScreen(const QTextBlock& block) {
     constexpr int Gap = 64;
     QTextBlockFormat apart;
@@ -96,6 +108,8 @@ void finishBlock(const QTextBlock& block, Medium medium) {
         makeRoomForPicture(block);
     if (medium == Medium::Screen && beginsPage(block))
         separateOnScreen(block);
+    if (medium == Medium::Screen && block.blockFormat().background().style() == Qt::SolidPattern)
+        thinRule(block);
 }
 
 } // namespace
