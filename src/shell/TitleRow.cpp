@@ -17,6 +17,7 @@ TitleRow::TitleRow(QWidget& form)
         label->setTextFormat(Qt::PlainText);
         theme::colour(*label, theme::White);
     }
+    saveState_->setWordWrap(true); // the strip has room for two lines, one for what and one for why
     QFont bold = theme::fieldFont();
     bold.setBold(true);
     caption_->setFont(bold);
@@ -35,6 +36,7 @@ void TitleRow::showTitleInvention(const QString& caption) {
 
 void TitleRow::showSaveState(const QString& text) {
     saveState_->setText(text);
+    theme::setPlainToolTip(*saveState_, text);
 }
 
 } // namespace quillford

@@ -48,6 +48,14 @@ TEST_F(TitleRowTest, the_invention_and_the_last_save_have_places_of_their_own) {
     EXPECT_GE(label(u"lblTitleInvention"_s).contentsRect().width(), 530);
 }
 
+TEST_F(TitleRowTest, the_reason_of_a_failure_stands_in_two_lines_and_whole_in_the_tip) {
+    title.showSaveState(u"not exported: folder does not exist"_s);
+    const QLabel& line = label(u"lblSaveState"_s);
+    EXPECT_GT(line.fontMetrics().horizontalAdvance(line.text()), line.width());
+    EXPECT_LE(line.heightForWidth(line.width()), line.height());
+    EXPECT_EQ(line.toolTip(), line.text());
+}
+
 TEST_F(TitleRowTest, what_the_user_typed_is_never_read_as_markup) {
     title.setCaption(u"<b>x</b>"_s);
     title.showTitleInvention(u"A & <i>B</i>"_s);
