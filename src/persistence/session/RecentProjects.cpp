@@ -83,7 +83,9 @@ RecentProjects::RecentProjects(Settings& settings, const Project& project)
 
 QString RecentProjects::menuCaption(int number) const {
     QString name = rows_.at(number - 1).menuName;
-    return QStringLiteral("&%1 - ").arg(number) + name.replace(u'&', QStringLiteral("&&"));
+    // A menu would set what stands behind a tab character apart, as the name of a key.
+    return QStringLiteral("&%1 - ").arg(number) +
+           name.replace(u'&', QStringLiteral("&&")).replace(u'\t', u' ');
 }
 
 const QString& RecentProjects::labelCaption(int number) const {

@@ -102,6 +102,12 @@ TEST_F(RecentProjectsTest, a_menu_shows_the_ampersands_of_a_name) {
     EXPECT_EQ(labels(), QStringList({u"Project - R&D & more"_s}));
 }
 
+TEST_F(RecentProjectsTest, a_menu_shows_a_name_with_a_tab_character_in_one_piece) {
+    start({u"/p/easel\tof mine.ivd||"_s});
+    EXPECT_EQ(menu(), QStringList({u"&1 - easel of mine"_s}));
+    EXPECT_EQ(tags(), QStringList({u"/p/easel\tof mine.ivd||"_s})) << "the file keeps its name";
+}
+
 TEST_F(RecentProjectsTest, an_entry_of_a_path_alone_has_no_label) {
     start({u"C:\\p\\Test.ivd"_s});
     EXPECT_EQ(labels(), QStringList({QString()}));
