@@ -30,7 +30,8 @@ QMessageBox::Icon asShown(UserPrompts::Icon icon) {
 /// The button that was pressed; a box that is closed otherwise presses `escape`.
 int askInBox(QWidget* parent, UserPrompts::Icon icon, const QString& title, const QString& text,
              QMessageBox::StandardButtons buttons, QMessageBox::StandardButton escape) {
-    QMessageBox box(asShown(icon), title, text, buttons, parent);
+    QWidget* const inFront = QApplication::activeModalWidget();
+    QMessageBox box(asShown(icon), title, text, buttons, inFront ? inFront : parent);
     // A file may bear a name that looks like markup.
     box.setTextFormat(Qt::PlainText);
     box.setEscapeButton(escape);

@@ -224,3 +224,16 @@ TEST_F(QtUserPromptsTest, boxes_stand_before_the_window_that_is_named_until_it_g
     window.reset();
     prompts.showMessage(Icon::None, u"t"_s, u"x"_s);
 }
+
+TEST_F(QtUserPromptsTest, a_box_that_comes_while_a_dialog_is_up_stands_before_that) {
+    QDialog dialog;
+    user.meets<QDialog>([this](QDialog& up) {
+            prompts.showMessage(Icon::None, u"t"_s, u"x"_s);
+            up.accept();
+        })
+        .meets<QMessageBox>([&dialog](QMessageBox& box) {
+            EXPECT_EQ(box.parentWidget(), &dialog);
+            box.accept();
+        });
+    dialog.exec();
+}

@@ -2,6 +2,7 @@
 
 #include "platform/linux/desktop/PageSequence.h"
 
+#include <QApplication>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -58,7 +59,8 @@ void QtPagePrinter::printAsChosen(const PrintJob& job) {
     printer.setCreator(QStringLiteral("Quillford 3.1"));
     setPaper(printer);
     const std::unique_ptr<PrintedPages> pages = layOut_(job);
-    QPrintDialog dialog(&printer, parent_);
+    QWidget* const inFront = QApplication::activeModalWidget();
+    QPrintDialog dialog(&printer, inFront ? inFront : parent_.data());
     dialog.setMinMax(1, pages->pageCount());
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                       QAbstractPrintDialog::PrintCollateCopies);

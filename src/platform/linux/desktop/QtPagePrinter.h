@@ -19,7 +19,8 @@ public:
 
     explicit QtPagePrinter(LayOut layOut);
 
-    /// The window before which the dialog stands from now on; it may go at any time.
+    /// The window before which the dialog stands from now on, where no dialog is up that stands in
+    /// front of it; it may go at any time.
     void setParent(QWidget* parent) { parent_ = parent; }
 
     [[nodiscard]] QList<Printer> printers() override;
