@@ -20,8 +20,8 @@ DraftParts::DraftParts(Project& project, mdlSystem& system, Settings& settings,
               ports.measuredFont},
              [this](const MissingLists& lists) { printReport(lists); }),
       commands_({project, system, verification_.exportFormat, check_, wizard.navigator,
-                 wizard.screen, files.saveDialog(), ports.word, ports.opener, ports.folders,
-                 prompts, ports.clock}) {
+                 wizard.screen, wizard.saveState, files.saveDialog(), ports.word, ports.opener,
+                 ports.folders, prompts, ports.clock}) {
     page_.setBuild([this] { return preview_.buildFinalDraft(); });
 }
 

@@ -20,6 +20,7 @@ public:
         SectionRules& rules;
         WizardNavigator& navigator;
         WizardScreen& screen;
+        SaveStateLine& saveState;
     };
 
     /// Owns none of its arguments; all outlive it.

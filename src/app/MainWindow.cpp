@@ -75,8 +75,9 @@ MainWindow::MainWindow(Project& project, mdlSystem& system, Settings& settings,
       files_(project, system, settings, prompts,
              {rules_, navigator_, screen_, form_.title(), *tmrAutoSave_}, ports),
       draft_(project, system, settings, prompts,
-             {form_, form_.panel(SectionRules::FinalDraftTab), rules_, navigator_, screen_}, files_,
-             ports) {
+             {form_, form_.panel(SectionRules::FinalDraftTab), rules_, navigator_, screen_,
+              form_.title()},
+             files_, ports) {
     pages_.setPage(SectionRules::FinalDraftTab, draft_.page());
     numberSingleFields();
     joinFields();
@@ -91,6 +92,17 @@ MainWindow::MainWindow(Project& project, mdlSystem& system, Settings& settings,
 
 MainWindow::~MainWindow() {
     project_.fields.setObserver(nullptr);
+}
+
+/// Has the gate run a command at a signal. A command with a number is known by name and number.
+template <typename Sender, typename... Index, typename Command>
+void MainWindow::starts(Sender& sender, void (Sender::*signal)(Index...), QStringView name,
+                        const Command& command) {
+    QObject::connect(&sender, signal, &form_, [this, name, command](Index... index) {
+        QString known = name.toString();
+        ((known += QString::number(index)), ...);
+        gate_.run(known, [command, index...] { command(index...); });
+    });
 }
 
 /// The designed order of the Tab key, until a section that is entered numbers its own.
@@ -114,35 +126,46 @@ void MainWindow::joinFields() {
 }
 
 void MainWindow::joinNavigation() {
-    QObject::connect(&form_.tabs(), &TabStrip::picTab_Click, &form_,
-                     [this](int tab) { navigator_.picTab_Click(tab); });
-    QObject::connect(&form_.bar(), &StepBar::btnStep_Click, &form_,
-                     [this](int index) { navigator_.btnStep_Click(index); });
-    QObject::connect(&form_.welcome(), &WelcomePage::newWanted, &form_,
-                     [this] { files_.commands().lblRecentPatents_Click(0); });
-    QObject::connect(&form_.welcome(), &WelcomePage::openWanted, &form_,
-                     [this] { files_.commands().mnuFileOpen_Click(); });
-    QObject::connect(&form_.welcome(), &WelcomePage::recentWanted, &form_,
-                     [this](int row) { files_.commands().lblRecentPatents_Click(row); });
-    QObject::connect(&form_, &frmMain1::closing, &form_, [this](bool& refuse) {
-        system_.exiting = files_.commands().queryUnload();
-        refuse = !system_.exiting;
-    });
+    ProjectCommands& commands = files_.commands();
+    starts(form_.tabs(), &TabStrip::picTab_Click, u"picTab",
+           [this](int tab) { navigator_.picTab_Click(tab); });
+    starts(form_.bar(), &StepBar::btnStep_Click, u"btnStep",
+           [this](int index) { navigator_.btnStep_Click(index); });
+    starts(form_.welcome(), &WelcomePage::newWanted, u"lblRecentPatents",
+           [&commands] { commands.lblRecentPatents_Click(0); });
+    starts(form_.welcome(), &WelcomePage::openWanted, u"mnuFileOpen",
+           [&commands] { commands.mnuFileOpen_Click(); });
+    starts(form_.welcome(), &WelcomePage::recentWanted, u"lblRecentPatents",
+           [&commands](int row) { commands.lblRecentPatents_Click(row); });
+    QObject::connect(&form_, &frmMain1::closing, &form_,
+                     [this](bool& refuse) { refuse = !mayClose(); });
+}
+
+/// A window that is asked to close while a command is at work closes after it.
+bool MainWindow::mayClose() {
+    const QString exit = QStringLiteral("mnuFileExit");
+    system_.exiting = false;
+    if (gate_.isBusy())
+        gate_.run(exit, [this] { QTimer::singleShot(0, &form_, &QWidget::close); });
+    else
+        gate_.run(exit, [this] { system_.exiting = files_.commands().queryUnload(); });
+    return system_.exiting;
 }
 
 void MainWindow::joinMenus() {
     ProjectCommands& commands = files_.commands();
-    const auto starts = [&](void (FileMenuEntries::*click)(), void (ProjectCommands::*command)()) {
-        QObject::connect(fileEntries_, click, &form_,
-                         [&commands, command] { (commands.*command)(); });
-    };
-    starts(&FileMenuEntries::mnuFileNew_Click, &ProjectCommands::mnuFileNew_Click);
-    starts(&FileMenuEntries::mnuFileOpen_Click, &ProjectCommands::mnuFileOpen_Click);
-    starts(&FileMenuEntries::mnuFileSave_Click, &ProjectCommands::mnuFileSave_Click);
-    starts(&FileMenuEntries::mnuFileSaveAs_Click, &ProjectCommands::mnuFileSaveAs_Click);
-    starts(&FileMenuEntries::mnuGotoWelcomePage_Click, &ProjectCommands::mnuGotoWelcomePage_Click);
-    QObject::connect(fileEntries_, &FileMenuEntries::mnuFileRecent_Click, &form_,
-                     [&commands](int index) { commands.mnuFileRecent_Click(index); });
+    starts(*fileEntries_, &FileMenuEntries::mnuFileNew_Click, u"mnuFileNew",
+           [&commands] { commands.mnuFileNew_Click(); });
+    starts(*fileEntries_, &FileMenuEntries::mnuFileOpen_Click, u"mnuFileOpen",
+           [&commands] { commands.mnuFileOpen_Click(); });
+    starts(*fileEntries_, &FileMenuEntries::mnuFileSave_Click, u"mnuFileSave",
+           [&commands] { commands.mnuFileSave_Click(); });
+    starts(*fileEntries_, &FileMenuEntries::mnuFileSaveAs_Click, u"mnuFileSaveAs",
+           [&commands] { commands.mnuFileSaveAs_Click(); });
+    starts(*fileEntries_, &FileMenuEntries::mnuGotoWelcomePage_Click, u"mnuGotoWelcomePage",
+           [&commands] { commands.mnuGotoWelcomePage_Click(); });
+    starts(*fileEntries_, &FileMenuEntries::mnuFileRecent_Click, u"mnuFileRecent",
+           [&commands](int index) { commands.mnuFileRecent_Click(index); });
     QObject::connect(fileEntries_, &FileMenuEntries::mnuFileExit_Click, &form_, &QWidget::close);
     QObject::connect(&form_.menus(), &MainMenus::fileMenuOpens, &form_, [this] {
         fileMenu_.open(projectScreen_.isWelcomePageShown(),
@@ -154,20 +177,27 @@ void MainWindow::joinMenus() {
 void MainWindow::joinDraft() {
     DraftCommands& commands = draft_.commands();
     PrintCommands& printing = draft_.printing();
-    QObject::connect(&form_.bar(), &StepBar::imgCreateToFile_Click, &form_,
-                     [&commands](int index) { commands.imgCreateToFile(index); });
-    QObject::connect(fileEntries_, &FileMenuEntries::mnuFileExportToHTML_Click, &form_,
-                     [&commands] { commands.mnuFileExportToHTML(); });
-    QObject::connect(fileEntries_, &FileMenuEntries::mnuFileExportToWord_Click, &form_,
-                     [&commands] { commands.mnuFileExportToWord(); });
-    QObject::connect(&form_.bar(), &StepBar::imgPrintFile_Click, &form_,
-                     [&printing] { printing.imgPrintFile(); });
-    QObject::connect(fileEntries_, &FileMenuEntries::mnuFilePrint_Click, &form_,
-                     [&printing] { printing.mnuFilePrint(); });
-    QObject::connect(form_.findChild<ClickLabel*>(QStringLiteral("imgPrint")), &ClickLabel::clicked,
-                     &form_, [&printing] { printing.imgPrint(); });
-    QObject::connect(&form_.help(), &HelpPane::imgHelpPrint_Click, &form_,
-                     [this, &printing] { printing.imgHelpPrint(form_.help().view().printJob()); });
+    // A command that was kept while another project came may find no draft any more.
+    const auto ofDraft = [this](const auto& command) {
+        return [this, command](auto... index) {
+            if (rules_.isComplete(SectionRules::FinalDraftTab))
+                command(index...);
+        };
+    };
+    starts(form_.bar(), &StepBar::imgCreateToFile_Click, u"imgCreateToFile",
+           ofDraft([&commands](int index) { commands.imgCreateToFile(index); }));
+    starts(*fileEntries_, &FileMenuEntries::mnuFileExportToHTML_Click, u"mnuFileExportToHTML",
+           ofDraft([&commands] { commands.mnuFileExportToHTML(); }));
+    starts(*fileEntries_, &FileMenuEntries::mnuFileExportToWord_Click, u"mnuFileExportToWord",
+           ofDraft([&commands] { commands.mnuFileExportToWord(); }));
+    starts(form_.bar(), &StepBar::imgPrintFile_Click, u"mnuFilePrint",
+           ofDraft([&printing] { printing.imgPrintFile(); }));
+    starts(*fileEntries_, &FileMenuEntries::mnuFilePrint_Click, u"mnuFilePrint",
+           ofDraft([&printing] { printing.mnuFilePrint(); }));
+    starts(*form_.findChild<ClickLabel*>(QStringLiteral("imgPrint")), &ClickLabel::clicked,
+           u"imgPrint", [&printing] { printing.imgPrint(); });
+    starts(form_.help(), &HelpPane::imgHelpPrint_Click, u"imgHelpPrint",
+           [this, &printing] { printing.imgHelpPrint(form_.help().view().printJob()); });
 }
 
 void MainWindow::joinWheel() {
@@ -188,11 +218,11 @@ void MainWindow::joinWheel() {
 
 void MainWindow::joinKeys() {
     ProjectCommands& commands = files_.commands();
-    QObject::connect(&form_.keys(), &KeyCommands::newWanted, &form_,
-                     [&commands] { commands.mnuFileNew_Click(); });
-    QObject::connect(&form_.keys(), &KeyCommands::openWanted, &form_,
-                     [&commands] { commands.mnuFileOpen_Click(); });
-    QObject::connect(&form_.keys(), &KeyCommands::saveWanted, &form_, [this, &commands] {
+    starts(form_.keys(), &KeyCommands::newWanted, u"mnuFileNew",
+           [&commands] { commands.mnuFileNew_Click(); });
+    starts(form_.keys(), &KeyCommands::openWanted, u"mnuFileOpen",
+           [&commands] { commands.mnuFileOpen_Click(); });
+    starts(form_.keys(), &KeyCommands::saveWanted, u"mnuFileSave", [this, &commands] {
         if (fileMenu_.isProjectEnabled())
             commands.mnuFileSave_Click();
     });

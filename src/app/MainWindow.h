@@ -3,6 +3,7 @@
 #include "app/DraftParts.h"
 #include "app/ProjectFiles.h"
 #include "controls/SpellBinder.h"
+#include "core/commands/CommandGate.h"
 #include "editors/binding/FieldGuidance.h"
 #include "editors/columns/CountTimers.h"
 #include "editors/index/ElementIndexPanel.h"
@@ -37,6 +38,10 @@ public:
     void showWelcomePage() { navigator_.showWelcomePage(); }
 
 private:
+    template <typename Sender, typename... Index, typename Command>
+    void starts(Sender& sender, void (Sender::*signal)(Index...), QStringView name,
+                const Command& command);
+    [[nodiscard]] bool mayClose();
     void joinFields();
     void joinNavigation();
     void joinMenus();
@@ -50,6 +55,7 @@ private:
     mdlSystem& system_;
     FocusOrder focusOrder_;
     frmMain1 form_;
+    CommandGate gate_;
     FileMenu fileMenu_;
     FileMenuEntries* fileEntries_; // owned by the menu
     QTimer* tmrAutoSave_;          // owned by the form

@@ -1,7 +1,6 @@
 #include "base/Files.h"
 
-#include "base/Error.h"
-
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include <cerrno>
@@ -54,6 +53,19 @@ void replaceFile(const QString& path, const QByteArray& bytes) {
 void takePlaceOf(const QString& made, const QString& path) {
     if (std::rename(QFile::encodeName(made).constData(), QFile::encodeName(path).constData()) != 0)
         throw Error(errno, QString::fromLocal8Bit(strerror(errno)), path);
+}
+
+QString reasonNotWritten(const QString& path, const Error& failure) {
+    const QFileInfo folder(QFileInfo(path).absolutePath());
+    if (!folder.isDir())
+        return QStringLiteral("folder does not exist");
+    if (!folder.isWritable())
+        return QStringLiteral("folder is read-only");
+    if (QFileInfo(path).isDir())
+        return QStringLiteral("a folder has this name");
+    if (failure.description() == QString::fromLocal8Bit(strerror(ENOSPC)))
+        return QStringLiteral("disk is full");
+    return failure.description();
 }
 
 void openPlainFile(QFile& file, const QString& path) {

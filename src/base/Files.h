@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Error.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QString>
@@ -26,6 +28,10 @@ void replaceFile(const QString& path, const QByteArray& bytes);
 /// Gives the file `made` the place of `path` in one step, whatever stands there. Both are on one
 /// file system. Raises `Error` whose source is `path`.
 void takePlaceOf(const QString& made, const QString& path);
+
+/// Why a file could not be written, in a few words for the line in which the window tells it: what
+/// can be seen of `path` and its folder now, else the failure's own description.
+[[nodiscard]] QString reasonNotWritten(const QString& path, const Error& failure);
 
 /// Opens the file `path` without a buffer, for writing at its start, and makes it if it is missing.
 /// It is not emptied. Meant for folders in which others may have put things: a link is not

@@ -22,7 +22,7 @@ namespace quillford {
 using namespace Qt::Literals::StringLiterals;
 
 /// The whole program before a user without a display. His home is an empty folder of each test's
-/// own; what the desktop is asked to open is written down and not opened.
+/// own; what the desktop is asked to open is written down and not opened, and there is no printer.
 class ProgramFixture : public testing::Test {
 protected:
     using Answer = ModalUser::Answer;
@@ -100,6 +100,9 @@ protected:
     /// A path is typed into the file dialog that comes up next; with an empty one it is cancelled.
     void whenAskedForFile(const QString& path) { user.isAskedForFile(path); }
 
+    /// The same in the print dialog: the pages go into this file.
+    void whenAskedToPrint(const QString& path) { user.isAskedToPrint(path); }
+
     /// As many ticks of the timer as lead to a save.
     void letTimerSave();
 
@@ -122,6 +125,7 @@ private:
     const ScopedEnvironment settings_{"XDG_CONFIG_HOME", place(u"settings"_s).toUtf8()};
     const ScopedEnvironment data_{"XDG_DATA_HOME", place(u"data"_s).toUtf8()};
     const ScopedEnvironment cache_{"XDG_CACHE_HOME", place(u"cache"_s).toUtf8()};
+    const ScopedEnvironment noPrinters_{"CUPS_SERVER", QByteArray("/nowhere/cups.sock")};
     const ScopedEnvironment path_{"PATH", place(u"bin:"_s).toUtf8() + qgetenv("PATH")};
 
 protected:

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPrintDialog>
 #include <QtTest>
 
 #include <chrono>
@@ -21,12 +22,14 @@ bool waitsForTheUser(const QWidget* shown) {
     return shown && shown->isVisible() && shown->objectName() != QStringLiteral("frmSplash");
 }
 
-void typePath(QWidget& dialog, const QString& path) {
+/// Into the line with this name.
+void typePath(QWidget& dialog, const QString& lineName, const QString& path) {
     if (path.isEmpty()) {
         QTest::keyClick(&dialog, Qt::Key_Escape);
         return;
     }
-    auto* const name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    auto* const name = dialog.findChild<QLineEdit*>(lineName);
+    ASSERT_TRUE(name) << qPrintable(lineName);
     QTest::keyClick(name, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(name, path);
     ASSERT_EQ(name->text(), path);
@@ -63,7 +66,13 @@ ModalUser& ModalUser::isAsked(const QString& title, QMessageBox::StandardButton 
 }
 
 ModalUser& ModalUser::isAskedForFile(const QString& path) {
-    return meets<QFileDialog>([path](QWidget& dialog) { typePath(dialog, path); });
+    return meets<QFileDialog>(
+        [path](QWidget& dialog) { typePath(dialog, QStringLiteral("fileNameEdit"), path); });
+}
+
+ModalUser& ModalUser::isAskedToPrint(const QString& path) {
+    return meets<QPrintDialog>(
+        [path](QWidget& dialog) { typePath(dialog, QStringLiteral("filename"), path); });
 }
 
 void ModalUser::pressByKeys(QWidget& window, QWidget* control) {

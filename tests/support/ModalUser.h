@@ -46,6 +46,10 @@ public:
     /// A file dialog, into which the path is typed; with an empty one it is left by Escape.
     ModalUser& isAskedForFile(const QString& path);
 
+    /// A print dialog without a printer, which prints into the file whose path is typed; with an
+    /// empty one it is left by Escape.
+    ModalUser& isAskedToPrint(const QString& path);
+
     [[nodiscard]] bool allCame() const { return steps_.empty(); }
 
     /// Moves to a control of a window by the Tab key, and presses the space bar there.

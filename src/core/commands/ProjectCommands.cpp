@@ -84,8 +84,6 @@ ProjectCommands::ProjectCommands(Project& project, WizardNavigator& navigator, W
       prompts_(prompts) {}
 
 void ProjectCommands::mnuFileNew_Click() {
-    if (isBusy())
-        return;
     if (screen_.project.isWelcomePageShown())
         return navigator_.showSectionOne();
     const CommandScope running(project_.state);
@@ -96,8 +94,6 @@ void ProjectCommands::mnuFileNew_Click() {
 }
 
 void ProjectCommands::mnuFileOpen_Click() {
-    if (isBusy())
-        return;
     const CommandScope running(project_.state);
     const QString question =
         QStringLiteral("Do you want to save the current project before you open the next file?");
@@ -129,8 +125,6 @@ void ProjectCommands::mnuFileSave_Click() {
 }
 
 void ProjectCommands::mnuFileSaveAs_Click() {
-    if (isBusy())
-        return;
     ProjectState& state = project_.state;
     const CommandScope running(state);
     GetSaveFlag(project_.fields, state);
@@ -155,8 +149,6 @@ void ProjectCommands::mnuFileSaveAs_Click() {
 }
 
 void ProjectCommands::mnuGotoWelcomePage_Click() {
-    if (isBusy())
-        return;
     const CommandScope running(project_.state);
     const QString question =
         QStringLiteral("Do you want to save the current project before you create a new Project?");
@@ -174,7 +166,7 @@ void ProjectCommands::mnuGotoWelcomePage_Click() {
 void ProjectCommands::mnuFileRecent_Click(int index) {
     const bool isOpenProject = index == 1 && !screen_.project.isWelcomePageShown() &&
                                !project_.state.projectFileName.isEmpty();
-    if (isBusy() || isOpenProject || store_.recentEntry(index).isEmpty())
+    if (isOpenProject || store_.recentEntry(index).isEmpty())
         return;
     const CommandScope running(project_.state);
     const QString question =
@@ -193,8 +185,6 @@ void ProjectCommands::lblRecentPatents_Click(int index) {
 }
 
 bool ProjectCommands::queryUnload() {
-    if (isBusy())
-        return false;
     ProjectState& state = project_.state;
     const CommandScope running(state);
     QScopedValueRollback saveFlag(state.saveFlag);

@@ -19,8 +19,8 @@ namespace quillford {
 /// with each other. A save that fails ends in a box; the names are what they were then, and the
 /// project still counts as changed. Nothing is raised.
 ///
-/// A command that would put another project in the place of this one does nothing while a command
-/// is at work: its waits let window events through.
+/// The commands wait and let window events through: no second one may begin meanwhile, which is the
+/// matter of the `CommandGate` before them.
 class ProjectCommands {
 public:
     /// Owns none of its arguments; all outlive it.
@@ -57,8 +57,6 @@ private:
     /// What happens when the user wants it saved and then gives no name, and there is a working
     /// copy that keeps it.
     enum class WithDraft { GoesOn, Stops };
-
-    [[nodiscard]] bool isBusy() const { return project_.state.commandsRunning > 0; }
 
     [[nodiscard]] Leave askToLeave(const QString& question, WithDraft withDraft);
     [[nodiscard]] bool keepInDraft();

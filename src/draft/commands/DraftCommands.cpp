@@ -1,5 +1,6 @@
 #include "draft/commands/DraftCommands.h"
 
+#include "base/Files.h"
 #include "core/commands/Pause.h"
 #include "core/commands/ShellDoc.h"
 #include "draft/compose/HtmlComposer.h"
@@ -71,9 +72,6 @@ void DraftCommands::exportToFile() {
 }
 
 void DraftCommands::choose(ExportFormat format) {
-    // The wait behind the check lets window events through, a second click among them.
-    if (parts_.project.state.commandsRunning > 0)
-        return;
     const CommandScope atWork(parts_.project.state);
     parts_.exportFormat = format;
     if (parts_.project.state.verifyPassed)
@@ -116,15 +114,13 @@ void DraftCommands::CreateToHtml() {
     const QString path = parts_.saveDialog.ask(QStringLiteral("htm"));
     if (path.isEmpty())
         return;
-    bool isMade = false;
+    HtmlComposer composer(parts_.project.fields, parts_.folders, parts_.prompts);
     {
         const Hourglass hourglass(parts_.screen.project);
-        HtmlComposer composer(parts_.project.fields, parts_.folders, parts_.prompts);
         QString written; // an empty text asks for a file
-        isMade = composer.ExportToHTML(path, written);
+        composer.ExportToHTML(path, written);
     }
-    if (isMade)
-        ShellDoc(path, parts_.opener);
+    finish(path, composer.failure());
 }
 
 void DraftCommands::CreateToWord() {
@@ -140,12 +136,23 @@ void DraftCommands::CreateToWord() {
                            "or choose another fileName."));
         return;
     }
-    bool isMade = false;
     {
         const Hourglass hourglass(parts_.screen.project);
-        isMade = composer.ExportToWord(path);
+        composer.ExportToWord(path);
     }
-    if (isMade)
+    finish(path, composer.failure());
+}
+
+/// No box tells of a file that could not be made. What the line said of an earlier one is over when
+/// a file is made.
+void DraftCommands::finish(const QString& path, const std::optional<Error>& failure) {
+    if (failure)
+        parts_.saveState.showSaveState(QStringLiteral("not exported: ") +
+                                       reasonNotWritten(path, *failure));
+    else if (hasFailed_)
+        parts_.saveState.showSaveState(QString());
+    hasFailed_ = failure.has_value();
+    if (!failure)
         ShellDoc(path, parts_.opener);
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "base/Error.h"
 #include "core/commands/SaveDialog.h"
 #include "core/fields/Project.h"
 #include "core/settings/mdlSystem.h"
+#include "core/wizard/SaveStateLine.h"
 #include "core/wizard/WizardNavigator.h"
 #include "core/wizard/WizardScreen.h"
 #include "draft/commands/ExportCheck.h"
@@ -13,10 +15,12 @@
 #include "platform/UserPrompts.h"
 #include "platform/WordProcessor.h"
 
+#include <optional>
+
 namespace quillford {
 
-/// The commands that make files of the Final Draft. What fails makes no file and opens none,
-/// without a word.
+/// The commands that make files of the Final Draft. What fails makes no file and opens none; only
+/// the line of the save state tells why. No second command may begin while one waits.
 class DraftCommands {
 public:
     /// What the commands work with. Nothing is owned; all outlives them.
@@ -27,6 +31,7 @@ public:
         ExportCheck& check;
         WizardNavigator& navigator;
         WizardScreen& screen;
+        SaveStateLine& saveState;
         SaveDialog& saveDialog;
         WordProcessor& word;
         DocumentOpener& opener;
@@ -56,8 +61,10 @@ private:
     void choose(ExportFormat format);
     void afterCheck(const ExportCheck::Outcome& outcome);
     void createFile();
+    void finish(const QString& path, const std::optional<Error>& failure);
 
     Parts parts_;
+    bool hasFailed_ = false;
 };
 
 } // namespace quillford

@@ -6,6 +6,7 @@
 #include "support/FakeClock.h"
 #include "support/FakeFolders.h"
 #include "support/FakeProjectStore.h"
+#include "support/FakeSaveStateLine.h"
 #include "support/FakeSpellEngine.h"
 
 #include <QTemporaryDir>
@@ -20,18 +21,12 @@ namespace {
 using Answer = UserPrompts::Answer;
 using Icon = UserPrompts::Icon;
 
-class Line final : public SaveStateLine {
-public:
-    void showSaveState(const QString& newText) override { text = newText; }
-
-    QString text = u"saved 12:00"_s;
-};
-
 class ProjectCommandsTest : public WizardFixture {
 protected:
     ProjectCommandsTest() {
         folders.documents = home.path();
         screen.autoSave = true;
+        saveState.text = u"saved 12:00"_s;
         store.answers = true;
         log.during = [this](const std::string& call) {
             if (call == "SaveFile")
@@ -102,7 +97,7 @@ protected:
     FakeClock clock;
     NewProject newProject{project, system, rules, navigator, screen.all, store, spelling, clock};
     WindowTitle title{screen};
-    Line saveState;
+    FakeSaveStateLine saveState;
     ProjectCommands commands{project,    navigator,   screen.all, newProject, store,
                              saveDialog, workFolders, title,      saveState,  prompts};
     ProjectState& state = project.state;
@@ -628,23 +623,6 @@ TEST_F(ProjectCommandsTest, after_a_preview_an_unsaved_project_closes_without_a_
 }
 
 // Inside each other
-
-TEST_F(ProjectCommandsTest, no_command_replaces_the_project_under_another) {
-    store.entries = {u"/p/a.ivd||"_s};
-    screen.welcome = true;
-    clock.events = [this] {
-        commands.mnuFileNew_Click();
-        commands.mnuFileOpen_Click();
-        commands.mnuFileSaveAs_Click();
-        commands.mnuGotoWelcomePage_Click();
-        commands.mnuFileRecent_Click(1);
-        EXPECT_FALSE(commands.queryUnload());
-    };
-    newProject.NewFile();
-    EXPECT_EQ(boxes(), QStringList());
-    EXPECT_EQ(prompts.fileQuestions.size(), 0U);
-    EXPECT_EQ(filing(), Calls({"reset recent counters"}));
-}
 
 TEST_F(ProjectCommandsTest, every_question_is_asked_with_a_command_at_work) {
     change();

@@ -3,6 +3,7 @@
 #include "draft/commands/DraftFixture.h"
 #include "draft/compose/WordTemplateText.h"
 #include "support/FakeDocumentOpener.h"
+#include "support/FakeSaveStateLine.h"
 #include "support/FakeWordProcessor.h"
 
 using namespace quillford;
@@ -40,10 +41,11 @@ protected:
     ExportFormat exportFormat = ExportFormat::None;
     WorkFolders workFolders{settings, folders};
     SaveDialog saveDialog{project.fields, workFolders, prompts};
+    FakeSaveStateLine saveState;
     FakeWordProcessor word;
     FakeDocumentOpener opener;
-    DraftCommands commands{{project, system, exportFormat, check, navigator, screen.all, saveDialog,
-                            word, opener, folders, prompts, clock}};
+    DraftCommands commands{{project, system, exportFormat, check, navigator, screen.all, saveState,
+                            saveDialog, word, opener, folders, prompts, clock}};
 };
 
 } // namespace
@@ -57,15 +59,6 @@ TEST_F(DraftCommandsTest, a_project_that_has_passed_is_exported_at_once) {
     EXPECT_EQ(opener.opened, QStringList{place(u"draft.htm"_s)});
     EXPECT_EQ(calls(), (Calls{"hourglass", "default pointer"}));
     EXPECT_TRUE(clock.waits.empty());
-}
-
-TEST_F(DraftCommandsTest, a_second_export_waits_for_nothing_while_one_is_at_work) {
-    const CommandScope first(state);
-    commands.imgCreateToFile(2);
-    commands.mnuFileExportToHTML();
-    EXPECT_EQ(check.shown, 0);
-    EXPECT_TRUE(prompts.fileQuestions.empty());
-    EXPECT_EQ(exportFormat, ExportFormat::None);
 }
 
 TEST_F(DraftCommandsTest, the_buttons_export_in_their_formats) {
@@ -176,8 +169,8 @@ TEST_F(DraftCommandsTest, a_format_that_the_check_took_back_is_not_exported) {
         ExportFormat& format;
     } clearing(exportFormat);
 
-    DraftCommands({project, system, exportFormat, clearing, navigator, screen.all, saveDialog, word,
-                   opener, folders, prompts, clock})
+    DraftCommands({project, system, exportFormat, clearing, navigator, screen.all, saveState,
+                   saveDialog, word, opener, folders, prompts, clock})
         .mnuFileExportToHTML();
     EXPECT_TRUE(prompts.fileQuestions.empty());
 }
@@ -208,11 +201,14 @@ TEST_F(DraftCommandsTest, an_open_document_is_not_written) {
     EXPECT_TRUE(calls().empty());
 }
 
-TEST_F(DraftCommandsTest, a_file_that_cannot_be_made_is_not_opened) {
+TEST_F(DraftCommandsTest, a_file_that_cannot_be_made_is_told_in_the_line_alone_and_not_opened) {
     prompts.filesToSave = {place(u"missing/draft.htm"_s), place(u"draft.doc"_s)};
     commands.CreateToHtml();
+    EXPECT_EQ(saveState.text, u"not exported: folder does not exist"_s);
     word.failingOperation = 3;
     commands.CreateToWord();
+    EXPECT_TRUE(saveState.text.startsWith(u"not exported: "_s));
+    EXPECT_NE(saveState.text, u"not exported: folder does not exist"_s);
     EXPECT_TRUE(opener.opened.isEmpty());
     EXPECT_TRUE(prompts.boxes.empty());
     EXPECT_EQ(calls(), (Calls{"hourglass", "default pointer", "hourglass", "default pointer"}));

@@ -13,6 +13,7 @@
 #include "support/FakeClock.h"
 #include "support/FakeFolders.h"
 #include "support/FakePictureReader.h"
+#include "support/FakeSaveStateLine.h"
 #include "support/FakeSpellEngine.h"
 #include "support/Files.h"
 #include "support/FullDisk.h"
@@ -118,18 +119,11 @@ protected:
         commands.mnuFileSave_Click();
     }
 
-    class Line final : public SaveStateLine {
-    public:
-        void showSaveState(const QString& newText) override { text = newText; }
-
-        QString text;
-    };
-
     QTemporaryDir home{folderInMemory() + QStringLiteral("/session-XXXXXX")};
     FakeFolders folders;
     WorkFolders workFolders{settings, folders};
     QString workDir;
-    Line saveState;
+    FakeSaveStateLine saveState;
     WindowTitle title{screen};
     SaveDialog saveDialog{project.fields, workFolders, prompts};
     RecentProjects recent{settings, project};

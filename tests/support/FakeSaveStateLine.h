@@ -1,0 +1,15 @@
+#pragma once
+
+#include "core/wizard/SaveStateLine.h"
+
+namespace quillford {
+
+/// Keeps what it shows.
+class FakeSaveStateLine final : public SaveStateLine {
+public:
+    void showSaveState(const QString& newText) override { text = newText; }
+
+    QString text;
+};
+
+} // namespace quillford
