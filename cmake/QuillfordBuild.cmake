@@ -63,9 +63,12 @@ function(quillford_program name)
 endfunction()
 
 # quillford_runs_the_program(NAME): the tool NAME runs the wizard within itself, which looks for its
-# help and its dictionary beside the program: links lead there.
+# help, its dictionary and its way to the word processor beside the program: links lead there.
 function(quillford_runs_the_program name)
-  foreach(part help Dictionary)
+  if(TARGET quillford_writer)
+    add_dependencies(${name} quillford_writer)
+  endif()
+  foreach(part help Dictionary quillford_writer.so)
     file(CREATE_LINK
       "${CMAKE_BINARY_DIR}/Quillford/${part}" "${CMAKE_BINARY_DIR}/tools/${part}" SYMBOLIC)
   endforeach()

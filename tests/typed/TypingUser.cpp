@@ -23,7 +23,9 @@ QWidget& takesKeys() {
         return popup->focusWidget() ? *popup->focusWidget() : *popup;
     if (QWidget* focus = QApplication::focusWidget())
         return *focus;
-    throw std::runtime_error("nothing has the focus");
+    if (QWidget* window = QApplication::activeWindow())
+        return *window;
+    throw std::runtime_error("no window takes the keys");
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 namespace quillford {
 
 /// A user before the main form with a mouse and a keyboard. A click falls on what lies uppermost at
-/// its place, and a key goes to what has the focus.
+/// its place, and a key goes to what has the focus, or to the window where nothing has.
 class TypingUser {
 public:
     /// The form is shown, and outlives the user.
