@@ -21,19 +21,19 @@ void run(const QString& program, const QStringList& arguments) {
 
 } // namespace
 
-BenchProject madeProject(const QString& name, const QString& folder, int textBytes) {
+BenchProject madeProject(const QString& name, const QString& folder, const MadeSize& size) {
     run(QStringLiteral(QUILLFORD_PYTHON),
         {QStringLiteral(QUILLFORD_SAMPLES "/make_largest_project.py"), folder,
-         QStringLiteral("--text-bytes"), QString::number(textBytes)});
+         QStringLiteral("--text-bytes"), QString::number(size.textBytes),
+         QStringLiteral("--picture-bytes"), QString::number(size.pictureBytes)});
     return {name, folder + QStringLiteral("/largest.json")};
 }
 
-QList<BenchProject> benchProjects(const QString& folder) {
-    constexpr int LargestText = 1000000;
+QList<BenchProject> benchProjects(const QString& folder, const MadeSize& largest) {
     return {
         {QStringLiteral("folding easel"),
          QStringLiteral(QUILLFORD_SAMPLES "/folding-easel/folding-easel.json")},
-        madeProject(QStringLiteral("largest"), folder, LargestText),
+        madeProject(QStringLiteral("largest"), folder, largest),
     };
 }
 

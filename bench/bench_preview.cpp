@@ -87,7 +87,7 @@ void benchPreview(const BenchProject& project, double most, const QString& folde
 void benchPdf(const QString& folder, Chromium* chromium) {
     constexpr int TextOfAHundredPages = 190000;
     const BenchProject project =
-        madeProject(QStringLiteral("100 pages"), folder, TextOfAHundredPages);
+        madeProject(QStringLiteral("100 pages"), folder, {.textBytes = TextOfAHundredPages});
     BenchDraft draft(project.path);
     const QString exported = folder + QStringLiteral("/exported.htm");
     draft.exportTo(exported);
