@@ -101,26 +101,6 @@ const VBSTATSTG& Storage::Stat() const {
     return binding().stat;
 }
 
-std::shared_ptr<ElementBinding> Storage::createElement(const QString& name, qint32 mode,
-                                                       bool stream) {
-    CompoundFile& file = enter();
-    compound::requireElementMode(mode, StorageMode::Create);
-    requireWritable();
-    compound::requireElementName(name);
-    const EntryId parent = binding().element->id();
-    if ((mode & StorageMode::Create) != 0) {
-        if (const auto old = ElementTree(file.settled()).find(parent, name)) {
-            requireClosed(*old);
-            DestroyElement(name);
-        }
-    }
-    requireFree(name);
-    const EntryId made = file.change([&](Volume& volume) {
-        return ElementTree(volume).create(parent, name, stream ? Kind::Stream : Kind::Storage);
-    });
-    return bind(file.openElement(made), mode);
-}
-
 std::shared_ptr<ElementBinding> Storage::openElement(const QString& name, qint32 mode,
                                                      bool stream) {
     CompoundFile& file = enter();
@@ -134,13 +114,21 @@ std::shared_ptr<ElementBinding> Storage::openElement(const QString& name, qint32
 
 std::shared_ptr<ElementBinding> Storage::createOrOpen(const QString& name, qint32 mode,
                                                       bool stream) {
-    try {
-        return createElement(name, mode, stream);
-    } catch (const Error& failure) {
-        if (failure.number() != FileAlreadyExistsNumber)
-            throw;
+    CompoundFile& file = enter();
+    compound::requireElementMode(mode, StorageMode::Create);
+    requireWritable();
+    compound::requireElementName(name);
+    const EntryId parent = binding().element->id();
+    if (const auto old = ElementTree(file.settled()).find(parent, name)) {
+        if ((mode & StorageMode::Create) == 0)
+            return openElement(name, mode, stream);
+        requireClosed(*old);
+        DestroyElement(name);
     }
-    return openElement(name, mode, stream);
+    const EntryId made = file.change([&](Volume& volume) {
+        return ElementTree(volume).create(parent, name, stream ? Kind::Stream : Kind::Storage);
+    });
+    return bind(file.openElement(made), mode);
 }
 
 Storage Storage::CreateStorage(const QString& name, qint32 mode) {

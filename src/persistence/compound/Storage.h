@@ -88,8 +88,6 @@ private:
     void requireFree(const QString& name) const;
     void requireClosed(quint32 element) const;
 
-    [[nodiscard]] std::shared_ptr<compound::ElementBinding> createElement(const QString& name,
-                                                                          qint32 mode, bool stream);
     [[nodiscard]] std::shared_ptr<compound::ElementBinding> openElement(const QString& name,
                                                                         qint32 mode, bool stream);
     [[nodiscard]] std::shared_ptr<compound::ElementBinding> createOrOpen(const QString& name,
