@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 #include "core/rules/FigureSize.h"
+#include "persistence/compound/FileByteStore.h"
 #include "persistence/compound/StorageModes.h"
 #include "persistence/compound/mdlStorage.h"
 #include "persistence/project/ProjectFileFormat.h"
@@ -61,6 +62,8 @@ void ProjectWriter::writeNew(const QString& path, Durability durability) {
         throw Error(PathFileAccess, beside.errorString(), path);
     const QString made = beside.filePath(QStringLiteral("project.ivd"));
     write(made, durability);
+    // Another program may be in the middle of a save into the file that is to go.
+    const auto old = QFileInfo::exists(path) ? FileByteStore::open(path) : nullptr;
     takePlaceOf(made, path);
 }
 

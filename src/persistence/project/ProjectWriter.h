@@ -31,7 +31,8 @@ public:
     void write(const QString& path, Durability durability);
 
     /// Writes the project into a new file that takes the place of `path` when it is whole, whatever
-    /// stands there. Raises as the other; what stood there stays then.
+    /// stands there. Raises as the other, and when what stands there is in use or write-protected;
+    /// it stays then.
     void writeNew(const QString& path, Durability durability);
 
     /// Writes the project into the root of an open file, without its property sets, and commits it.

@@ -215,6 +215,19 @@ TEST_F(ProjectWriter_, a_new_file_takes_the_place_of_one_that_is_no_project) {
     EXPECT_EQ(texts(u"Section Version"_s, 1), QStringList({u"3.1"_s}));
 }
 
+TEST_F(ProjectWriter_, a_new_file_does_not_take_the_place_of_one_that_is_in_use) {
+    const Project project;
+    write(project);
+    const QByteArray before = contentOf(file());
+    const Storage elsewhere = OpenStorageFile(file());
+    EXPECT_EQ(
+        errorOf([&] {
+            ProjectWriter(project, prompts).writeNew(file(), ProjectWriter::Durability::Flushed);
+        }).description(),
+        u"The file is in use.");
+    EXPECT_EQ(contentOf(file()), before);
+}
+
 TEST_F(ProjectWriter_, a_new_file_that_fails_leaves_the_one_in_its_place) {
     makeFile(u"project.ivd"_s, "letters");
     Project project;
