@@ -41,7 +41,8 @@ public:
     /// Deletes the shadow copy, if there is one.
     virtual void deleteShadow() = 0;
 
-    /// Takes the mark of an open project out of the first entry of the recent list.
+    /// Takes the mark of an open project out of its entry in the recent list, which is the first
+    /// unless another program has opened a project since.
     virtual void clearOpenMarker() = 0;
 
     /// Sets the two counters of recovered projects in the recent list to 1.

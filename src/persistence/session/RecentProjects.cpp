@@ -3,6 +3,8 @@
 #include "core/settings/SettingsNames.h"
 #include "persistence/project/WorkingCopies.h"
 
+#include <algorithm>
+
 namespace quillford {
 
 namespace {
@@ -188,49 +190,71 @@ void RecentProjects::projectSaved(const QString& path, bool refresh) {
 
 bool RecentProjects::projectOpened(const QString& argument, const QString& path) {
     const QString entry = argument.contains(u'|') ? argument : entryOf(path);
-    QList<int> moved;
-    QString first;
+    QStringList moved;
+    QStringList listed;
     change([&](QStringList& entries) {
         for (int i = 0; i < entries.size(); ++i)
             if (entries[i].contains(path)) {
                 entries.move(i, 0);
                 if (!entries[0].contains(OpenMarker))
                     entries[0] += OpenMarker;
-                moved.append(i);
+                moved.append(part(entries[0], PathPart));
             }
-        first = entries.value(0);
+        listed = entries;
     });
-    for (const int index : moved)
-        moveRowToTop(index, entry);
-    const bool recovered = first.contains(OpenMarker) && !rows_.isEmpty() &&
+    moveRowsToTop(moved, entry);
+    const bool recovered = listed.value(0).contains(OpenMarker) && !rows_.isEmpty() &&
                            rows_.first().menuName.contains(Recovered);
+    if (!moved.isEmpty())
+        droppedRecentEntry_.clear();
     if (moved.isEmpty())
         addRecentEntry(entry, true);
-    else
-        droppedRecentEntry_.clear();
+    else if (!isShown(listed))
+        refreshRecentProjects();
     keepFirstEntry();
     return recovered;
 }
 
-/// The row keeps its names, and with them what tells that it was recovered. Where another program
-/// has changed the list meanwhile the rows are built anew.
-void RecentProjects::moveRowToTop(int index, const QString& entry) {
-    if (index >= rows_.size())
-        return refreshRecentProjects();
-    rows_.move(index, 0);
-    rows_.first().entry = entry;
-    Q_EMIT rowsChanged();
+/// A row keeps its names, and with them what tells that it was recovered.
+void RecentProjects::moveRowsToTop(const QStringList& paths, const QString& entry) {
+    for (qsizetype moved = 0; moved < paths.size(); ++moved) {
+        const auto row = std::find_if(rows_.begin() + moved, rows_.end(), [&](const Row& shown) {
+            return part(shown.entry, PathPart) == paths[moved];
+        });
+        if (row == rows_.end())
+            return;
+        std::rotate(rows_.begin(), row, row + 1);
+        rows_.first().entry = entry;
+        Q_EMIT rowsChanged();
+    }
+}
+
+/// Not where the timer or another program has changed the list since the rows were built.
+bool RecentProjects::isShown(const QStringList& entries) const {
+    return std::equal(rows_.begin(), rows_.end(), entries.begin(), entries.end(),
+                      [](const Row& row, const QString& entry) {
+                          return part(row.entry, PathPart) == part(entry, PathPart);
+                      });
 }
 
 void RecentProjects::clearOpenMarker() {
-    change([](QStringList& entries) {
+    change([this](QStringList& entries) {
         if (!entries.isEmpty())
-            entries.first() = withoutMarker(entries.first());
+            entries[ownIndex(entries)] = withoutMarker(entries[ownIndex(entries)]);
     });
 }
 
 void RecentProjects::keepFirstEntry() {
-    firstRecentEntry_ = withoutMarker(entries().value(0));
+    const QStringList listed = entries();
+    firstRecentEntry_ = withoutMarker(listed.value(ownIndex(listed)));
+}
+
+/// The first entry is the open project's, unless another program has opened one since.
+qsizetype RecentProjects::ownIndex(const QStringList& entries) const {
+    const auto own = std::find_if(entries.begin(), entries.end(), [this](const QString& entry) {
+        return part(entry, PathPart) == project_.state.projectFileName;
+    });
+    return own == entries.end() ? 0 : own - entries.begin();
 }
 
 void RecentProjects::restoreFirstEntry() {
@@ -246,7 +270,12 @@ void RecentProjects::dropEntry(const QString& path) {
         const bool wasFull = entries.size() == MostEntries;
         const auto removed =
             entries.removeIf([&](const QString& entry) { return part(entry, PathPart) == path; });
-        if (removed > 0 && wasFull && !droppedRecentEntry_.isEmpty())
+        // Another program may have opened that project meanwhile.
+        const bool isListed =
+            std::any_of(entries.begin(), entries.end(), [this](const QString& entry) {
+                return part(entry, PathPart) == part(droppedRecentEntry_, PathPart);
+            });
+        if (removed > 0 && wasFull && !droppedRecentEntry_.isEmpty() && !isListed)
             entries.append(droppedRecentEntry_);
     });
 }

@@ -72,10 +72,11 @@ public:
     /// entry is added. True when the first row is shown as recovered.
     bool projectOpened(const QString& argument, const QString& path);
 
-    /// Takes the mark out of the first entry.
+    /// Takes the mark out of the open project's entry, or out of the first where it has none.
     void clearOpenMarker();
 
-    /// Keeps the first entry, without its mark, to be put back by `restoreFirstEntry`.
+    /// Keeps the open project's entry, or the first where it has none, without its mark, to be put
+    /// back by `restoreFirstEntry`.
     void keepFirstEntry();
 
     /// Gives the project's entry the text it had when it was kept.
@@ -98,7 +99,9 @@ private:
     [[nodiscard]] QString recentMenuName(const QString& entry, bool inSession);
     [[nodiscard]] QString recentLabelName(const QString& entry, bool inSession);
     [[nodiscard]] QString entryOf(const QString& path) const;
-    void moveRowToTop(int index, const QString& entry);
+    [[nodiscard]] qsizetype ownIndex(const QStringList& entries) const;
+    [[nodiscard]] bool isShown(const QStringList& entries) const;
+    void moveRowsToTop(const QStringList& paths, const QString& entry);
 
     Settings& settings_;
     const Project& project_;

@@ -236,6 +236,14 @@ TEST_F(RecentProjectsTest, a_project_that_is_not_listed_takes_no_other_with_it) 
     EXPECT_EQ(listed(), five);
 }
 
+TEST_F(RecentProjectsTest, an_entry_that_another_program_has_brought_back_does_not_come_twice) {
+    start(five);
+    recent.addRecentEntry(bare(u"f"_s), true);
+    list({five[4] + u"|FILEOPEN"_s, bare(u"f"_s), five[0], five[1], five[2]});
+    recent.dropEntry(u"/p/f.ivd"_s);
+    EXPECT_EQ(listed(), QStringList({five[4] + u"|FILEOPEN"_s, five[0], five[1], five[2]}));
+}
+
 // Opening
 
 TEST_F(RecentProjectsTest, opening_the_third_makes_it_the_first) {
@@ -294,12 +302,53 @@ TEST_F(RecentProjectsTest, rows_that_another_program_has_overtaken_are_built_ane
     EXPECT_EQ(menu(), QStringList({u"&1 - a"_s, u"&2 - n"_s}));
 }
 
+TEST_F(RecentProjectsTest, the_row_that_moves_is_the_projects_own_also_when_the_list_has_moved) {
+    start({bare(u"a"_s), bare(u"b"_s)});
+    list({bare(u"n"_s), bare(u"a"_s), bare(u"b"_s)});
+    recent.projectOpened(bare(u"a"_s), u"/p/a.ivd"_s);
+    EXPECT_EQ(menu(), QStringList({u"&1 - a"_s, u"&2 - n"_s, u"&3 - b"_s}));
+    EXPECT_EQ(tags(), listed());
+}
+
+TEST_F(RecentProjectsTest, a_recovered_row_is_still_one_after_another_program_has_moved_it) {
+    start({bare(u"a"_s), u"/p/b.ivd|||FILEOPEN"_s});
+    list({bare(u"n"_s), bare(u"a"_s), u"/p/b.ivd|||FILEOPEN"_s});
+    EXPECT_TRUE(recent.projectOpened(recent.entry(2), u"/p/b.ivd"_s));
+    EXPECT_EQ(menu(), QStringList({u"&1 - b"_s, u"&2 - n"_s, u"&3 - a"_s}));
+}
+
+TEST_F(RecentProjectsTest, each_row_whose_entry_holds_the_path_moves) {
+    start({bare(u"x"_s), u"/home/p/a.ivd||"_s, bare(u"y"_s), bare(u"a"_s)});
+    recent.projectOpened(bare(u"a"_s), u"/p/a.ivd"_s);
+    EXPECT_EQ(menu(), QStringList({u"&1 - a"_s, u"&2 - a"_s, u"&3 - x"_s, u"&4 - y"_s}));
+}
+
 // The mark and the kept entry
 
 TEST_F(RecentProjectsTest, a_clean_end_takes_the_mark_out_of_the_first_alone) {
     start({bare(u"a"_s) + u"|FILEOPEN"_s, bare(u"b"_s) + u"|FILEOPEN"_s});
     recent.clearOpenMarker();
     EXPECT_EQ(listed(), QStringList({bare(u"a"_s), bare(u"b"_s) + u"|FILEOPEN"_s}));
+}
+
+TEST_F(RecentProjectsTest, a_clean_end_leaves_the_mark_of_another_programs_project) {
+    start({bare(u"a"_s)});
+    project.state.projectFileName = u"/p/a.ivd"_s;
+    recent.projectOpened(bare(u"a"_s), u"/p/a.ivd"_s);
+    list({bare(u"n"_s) + u"|FILEOPEN"_s, bare(u"a"_s) + u"|FILEOPEN"_s});
+    recent.clearOpenMarker();
+    EXPECT_EQ(listed(), QStringList({bare(u"n"_s) + u"|FILEOPEN"_s, bare(u"a"_s)}));
+}
+
+TEST_F(RecentProjectsTest, the_entry_that_is_kept_is_the_projects_own) {
+    start({bare(u"a"_s)});
+    project.state.projectFileName = u"/p/a.ivd"_s;
+    recent.projectOpened(bare(u"a"_s), u"/p/a.ivd"_s);
+    list({bare(u"n"_s) + u"|FILEOPEN"_s, u"/p/a.ivd|1||FILEOPEN"_s});
+    recent.keepFirstEntry();
+    list({bare(u"n"_s) + u"|FILEOPEN"_s, u"/p/a.ivd|2||FILEOPEN"_s});
+    recent.restoreFirstEntry();
+    EXPECT_EQ(listed(), QStringList({bare(u"n"_s) + u"|FILEOPEN"_s, u"/p/a.ivd|1|"_s}));
 }
 
 TEST_F(RecentProjectsTest, the_entry_goes_back_to_what_it_was_at_the_opening) {
