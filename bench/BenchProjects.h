@@ -5,7 +5,6 @@
 #include <QList>
 #include <QString>
 
-
 namespace quillford {
 
 /// A project that benchmarks are run on.

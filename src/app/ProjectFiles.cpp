@@ -10,14 +10,15 @@ ProjectFiles::ProjectFiles(Project& project, mdlSystem& system, Settings& settin
       recent_(settings, project),
       title_(wizard.screen.project),
       copies_(project.fields, ports.folders, ports.pictureSizes),
-      saver_(project, folders_, dialog_, recent_, shadow_, title_, wizard.saveState, prompts),
+      saver_(project, folders_, dialog_, recent_, shadow_, title_, wizard.saveState, prompts,
+             ports.clock),
       opener_(project, system, wizard.rules, wizard.navigator, wizard.screen,
               {saver_, names_, folders_, recent_, copies_, title_, wizard.saveState, prompts},
               ports.clock),
       filer_(project.state, saver_, opener_, recent_, shadow_, prompts),
       newProject_(project, system, wizard.rules, wizard.navigator, wizard.screen, filer_,
                   ports.spelling, ports.clock),
-      autoSave_(wizard.tmrAutoSave, project, filer_, names_, wizard.saveState),
+      autoSave_(wizard.tmrAutoSave, project, filer_, names_, wizard.saveState, ports.clock),
       commands_(project, wizard.navigator, wizard.screen, newProject_, filer_, dialog_, folders_,
                 title_, wizard.saveState, prompts) {}
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QDateTime>
 
 namespace quillford {
 
@@ -12,6 +12,10 @@ public:
     /// Milliseconds since a moment in the past that stays the same for the whole run. Never goes
     /// back, whatever is done to the time of day.
     [[nodiscard]] virtual qint64 milliseconds() const = 0;
+
+    /// The date and the time of day where the user is, as the desktop's clock shows them. May go
+    /// back at any time: nothing waits by it.
+    [[nodiscard]] virtual QDateTime dateAndTime() const = 0;
 
     /// The factor on every wait that only paces the screen: 1 in ordinary use, 0 to wait for
     /// nothing. Never negative.

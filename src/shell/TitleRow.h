@@ -23,6 +23,7 @@ public:
 
     void showTitleInvention(const QString& caption) override;
 
+    /// Has room for two lines; the label's tip has all of a longer one.
     void showSaveState(const QString& text) override;
 
 private:

@@ -48,12 +48,20 @@ TEST_F(TitleRowTest, the_invention_and_the_last_save_have_places_of_their_own) {
     EXPECT_GE(label(u"lblTitleInvention"_s).contentsRect().width(), 530);
 }
 
-TEST_F(TitleRowTest, the_reason_of_a_failure_stands_in_two_lines_and_whole_in_the_tip) {
-    title.showSaveState(u"not exported: folder does not exist"_s);
+TEST_F(TitleRowTest, a_reason_of_a_failure_has_room_for_two_lines_and_stands_in_the_tip) {
     const QLabel& line = label(u"lblSaveState"_s);
-    EXPECT_GT(line.fontMetrics().horizontalAdvance(line.text()), line.width());
-    EXPECT_LE(line.heightForWidth(line.width()), line.height());
-    EXPECT_EQ(line.toolTip(), line.text());
+    for (const QString& text : {u"not saved: disk full"_s, u"not saved: file in use"_s,
+                                u"not saved: file damaged"_s, u"not saved: no free name"_s,
+                                u"not saved: folder does not exist"_s,
+                                u"not exported: folder does not exist"_s,
+                                u"not exported: folder is read-only"_s}) {
+        title.showSaveState(text);
+        EXPECT_EQ(line.text(), text);
+        EXPECT_LE(line.heightForWidth(line.width()), line.height()) << qPrintable(text);
+        EXPECT_EQ(line.toolTip(), text);
+    }
+    title.showSaveState({});
+    EXPECT_EQ(line.toolTip(), QString());
 }
 
 TEST_F(TitleRowTest, what_the_user_typed_is_never_read_as_markup) {

@@ -13,6 +13,7 @@ namespace quillford {
 class FakeClock final : public Clock {
 public:
     qint64 now = 1000;
+    QDateTime date{QDate(2026, 3, 14), QTime(15, 9)};
     double factor = 1;
     std::vector<qint64> interruptions;
     /// How long each wait was allowed to take.
@@ -21,6 +22,8 @@ public:
     std::function<void()> events;
 
     [[nodiscard]] qint64 milliseconds() const override { return now; }
+
+    [[nodiscard]] QDateTime dateAndTime() const override { return date; }
 
     [[nodiscard]] double pace() const override { return factor; }
 

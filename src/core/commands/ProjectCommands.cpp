@@ -55,15 +55,8 @@ private:
     bool wasEnabled_;
 };
 
-/// Runs a step of a save; false when it failed, which the user is told.
-template <typename Step>
-bool trapped(UserPrompts& prompts, const Step& step) {
-    try {
-        return step();
-    } catch (const Error& error) {
-        prompts.showMessage(Icon::Exclamation, QStringLiteral("Error"), error.description());
-        return false;
-    }
+void tellFailure(UserPrompts& prompts, const QString& text) {
+    prompts.showMessage(Icon::Exclamation, QStringLiteral("Error"), text);
 }
 
 } // namespace
@@ -258,14 +251,21 @@ bool ProjectCommands::saveAndCleanDraft() {
 }
 
 bool ProjectCommands::trySave() {
-    return trapped(prompts_, [this] { return store_.SaveFile(); });
+    try {
+        return store_.SaveFile();
+    } catch (const Error& error) {
+        tellFailure(prompts_, error.description());
+        return false;
+    }
 }
 
 void ProjectCommands::letShadowFollow() {
-    trapped(prompts_, [this] {
+    try {
         store_.updateShadow();
-        return true;
-    });
+    } catch (const Error& error) {
+        tellFailure(prompts_, QStringLiteral("The project is saved, but not its backup copy: ") +
+                                  error.description());
+    }
 }
 
 void ProjectCommands::startNew() {

@@ -12,13 +12,16 @@ namespace {
 constexpr int ChangedInterval = 600; // milliseconds, from the first change on
 constexpr int TicksBetween = 5;      // between two saves
 
-constexpr qint64 FileAlreadyExists = 58;
-
 } // namespace
 
 AutoSave::AutoSave(QTimer& timer, Project& project, ProjectStore& store, DraftNames& names,
-                   SaveStateLine& saveState)
-    : timer_(timer), project_(project), store_(store), names_(names), saveState_(saveState) {
+                   SaveStateLine& saveState, const Clock& clock)
+    : timer_(timer),
+      project_(project),
+      store_(store),
+      names_(names),
+      saveState_(saveState),
+      clock_(clock) {
     connect(&timer_, &QTimer::timeout, this, &AutoSave::tmrAutoSave_Timer);
 }
 
@@ -32,31 +35,30 @@ void AutoSave::tmrAutoSave_Timer() {
         return;
     }
     autoSaveTicks_ = 0;
-    try {
-        save();
-    } catch (const Error& error) {
-        saveState_.showSaveState(QStringLiteral("not saved: ") + error.description());
-    }
+    save();
 }
 
 void AutoSave::save() {
     const CommandScope running(project_.state);
-    nameDraft();
+    if (!nameDraft())
+        return saveState_.showSaveState(QStringLiteral("not saved: no free name"));
     const QScopedValueRollback autoSaving(project_.state.isAutoSaving, true);
-    // The project has a name, so that nobody is asked and the answer is yes.
-    static_cast<void>(store_.SaveFile());
+    try {
+        // The project has a name, so that nobody is asked and the answer is yes.
+        static_cast<void>(store_.SaveFile());
+    } catch (const Error&) {
+        return; // The line of the save state tells it, and the next sixth tick tries again.
+    }
 }
 
 /// The name stays also where the save fails: the next one goes to the same file.
-void AutoSave::nameDraft() {
+bool AutoSave::nameDraft() {
     ProjectState& state = project_.state;
     if (!state.projectFileName.isEmpty())
-        return;
-    const QString name = names_.newDraftFileName(QDate::currentDate());
-    if (name.isEmpty())
-        throw Error(FileAlreadyExists, QStringLiteral("no name for a working copy is free"));
-    state.projectFileName = name;
-    state.draftFileName = name;
+        return true;
+    state.projectFileName = names_.newDraftFileName(clock_.dateAndTime().date());
+    state.draftFileName = state.projectFileName;
+    return !state.projectFileName.isEmpty();
 }
 
 } // namespace quillford

@@ -4,6 +4,7 @@
 #include "core/fields/Project.h"
 #include "core/wizard/SaveStateLine.h"
 #include "persistence/session/DraftNames.h"
+#include "platform/Clock.h"
 
 #include <QObject>
 #include <QTimer>
@@ -18,7 +19,7 @@ class AutoSave final : public QObject {
 public:
     /// Saves at the ticks of `tmrAutoSave`. Owns none of its arguments; all outlive it.
     AutoSave(QTimer& timer, Project& project, ProjectStore& store, DraftNames& names,
-             SaveStateLine& saveState);
+             SaveStateLine& saveState, const Clock& clock);
 
     /// One tick; every sixth one saves. Nothing happens, and nothing is counted, while there are no
     /// changes and while a command or a prompt is at work. A save that fails is told in the line of
@@ -27,13 +28,14 @@ public:
 
 private:
     void save();
-    void nameDraft();
+    [[nodiscard]] bool nameDraft();
 
     QTimer& timer_;
     Project& project_;
     ProjectStore& store_;
     DraftNames& names_;
     SaveStateLine& saveState_;
+    const Clock& clock_;
     int autoSaveTicks_ = 0;
 };
 

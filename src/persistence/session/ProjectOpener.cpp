@@ -5,6 +5,7 @@
 #include "core/settings/PathParts.h"
 #include "persistence/project/ResumeNext.h"
 #include "persistence/project/WorkingCopies.h"
+#include "persistence/session/SaveFailure.h"
 
 #include <QFileInfo>
 #include <QScopedValueRollback>
@@ -190,7 +191,7 @@ void ProjectOpener::makeShadow(const QString& path) {
     ResumeNext resumeNext;
     if (!resumeNext([&] { filing_.saver.writeShadow(); }))
         filing_.saveState.showSaveState(QStringLiteral("no backup: ") +
-                                        resumeNext.firstFailure()->description());
+                                        briefReason(*resumeNext.firstFailure()));
 }
 
 void ProjectOpener::finish() {

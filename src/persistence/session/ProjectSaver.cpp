@@ -4,10 +4,10 @@
 #include "core/settings/PathParts.h"
 #include "persistence/project/ProjectWriter.h"
 #include "persistence/project/WorkingCopies.h"
+#include "persistence/session/SaveFailure.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QTime>
 
 #include <utility>
 
@@ -29,7 +29,7 @@ void makeFolderOf(const QString& path) {
 
 ProjectSaver::ProjectSaver(Project& project, WorkFolders& folders, SaveDialog& dialog,
                            RecentProjects& recent, ShadowCopy& shadow, WindowTitle& title,
-                           SaveStateLine& saveState, UserPrompts& prompts)
+                           SaveStateLine& saveState, UserPrompts& prompts, const Clock& clock)
     : project_(project),
       folders_(folders),
       dialog_(dialog),
@@ -37,9 +37,19 @@ ProjectSaver::ProjectSaver(Project& project, WorkFolders& folders, SaveDialog& d
       shadow_(shadow),
       title_(title),
       saveState_(saveState),
-      prompts_(prompts) {}
+      prompts_(prompts),
+      clock_(clock) {}
 
 bool ProjectSaver::SaveFile() {
+    try {
+        return save();
+    } catch (const Error& failure) {
+        saveState_.showSaveState(QStringLiteral("not saved: ") + briefReason(failure));
+        throw;
+    }
+}
+
+bool ProjectSaver::save() {
     ProjectState& state = project_.state;
     const CommandScope running(state);
     const bool isNew = std::exchange(isNew_, false);
@@ -61,7 +71,7 @@ bool ProjectSaver::SaveFile() {
         recent_.projectSaved(path, false);
     settleState();
     saveState_.showSaveState(QStringLiteral("saved ") +
-                             QTime::currentTime().toString(QStringLiteral("HH:mm")));
+                             clock_.dateAndTime().toString(QStringLiteral("HH:mm")));
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include "core/wizard/WindowTitle.h"
 #include "persistence/session/RecentProjects.h"
 #include "persistence/session/ShadowCopy.h"
+#include "platform/Clock.h"
 #include "platform/UserPrompts.h"
 
 #include <QString>
@@ -19,10 +20,11 @@ public:
     /// Owns none of its arguments; all outlive it.
     ProjectSaver(Project& project, WorkFolders& folders, SaveDialog& dialog, RecentProjects& recent,
                  ShadowCopy& shadow, WindowTitle& title, SaveStateLine& saveState,
-                 UserPrompts& prompts);
+                 UserPrompts& prompts, const Clock& clock);
 
     /// See `ProjectStore::SaveFile`. While `isAutoSaving` is set nobody is asked, a refused file is
     /// spared and the shadow copy written in its place, and the project still counts as changed.
+    /// The line of the save state tells when it was saved, or why it was not.
     [[nodiscard]] bool SaveFile();
 
     /// See `ProjectStore::saveAsNew`.
@@ -38,6 +40,7 @@ public:
     void updateShadow();
 
 private:
+    [[nodiscard]] bool save();
     [[nodiscard]] bool chooseTarget();
     void write(bool isNew);
     void rememberFolder();
@@ -51,6 +54,7 @@ private:
     WindowTitle& title_;
     SaveStateLine& saveState_;
     UserPrompts& prompts_;
+    const Clock& clock_;
     bool isNew_ = false;
 };
 

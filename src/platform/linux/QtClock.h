@@ -15,6 +15,8 @@ public:
 
     [[nodiscard]] qint64 milliseconds() const override { return timer_.elapsed(); }
 
+    [[nodiscard]] QDateTime dateAndTime() const override { return QDateTime::currentDateTime(); }
+
     [[nodiscard]] double pace() const override { return pace_; }
 
     void letEventsRun(qint64 atMost) override;

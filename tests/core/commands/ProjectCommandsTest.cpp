@@ -308,7 +308,10 @@ TEST_F(ProjectCommandsTest, a_shadow_that_cannot_follow_is_told_and_the_save_sta
             throw Error(112, u"the disk is full"_s);
     };
     commands.mnuFileSave_Click();
-    EXPECT_EQ(boxes(), QStringList({u"Error"_s}));
+    EXPECT_EQ(prompts.boxes,
+              std::vector({FakePrompts::Box{
+                  Icon::Exclamation, u"Error"_s,
+                  u"The project is saved, but not its backup copy: the disk is full"_s}}));
     EXPECT_FALSE(GetSaveFlag(project.fields, state));
 }
 

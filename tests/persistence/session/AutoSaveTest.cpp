@@ -4,7 +4,6 @@
 #include "persistence/session/SessionFixture.h"
 
 #include <QCoreApplication>
-#include <QDate>
 
 using namespace quillford;
 using namespace Qt::Literals::StringLiterals;
@@ -20,7 +19,7 @@ protected:
 
     QString provisional(const QString& number) const {
         return inDrafts(u"Provisional Project [%1] (%2).ivd"_s.arg(
-            number, QDate::currentDate().toString(u"MM-dd-yyyy"_s)));
+            number, clock.date.toString(u"MM-dd-yyyy"_s)));
     }
 };
 
@@ -147,8 +146,23 @@ TEST_F(AutoSaveTest, without_a_free_name_nobody_is_asked) {
         writeFile(inDrafts(u"Draft -  %1.ivd"_s.arg(i)));
     type(u"I"_s);
     tick(6);
-    EXPECT_EQ(saveState.text, u"not saved: no name for a working copy is free");
+    EXPECT_EQ(saveState.text, u"not saved: no free name");
     EXPECT_EQ(names3(), std::tuple(u""_s, u""_s, u""_s));
+}
+
+TEST_F(AutoSaveTest, a_clock_that_is_set_back_stops_no_save_and_moves_no_draft) {
+    type(project.fields.txtFileNo, u"A-1"_s);
+    clock.date = QDateTime(QDate(2026, 3, 14), QTime(0, 5));
+    tick(6);
+    EXPECT_EQ(saveState.text, u"saved 00:05");
+    const QString draft = provisional(u"A-1"_s);
+    clock.date = QDateTime(QDate(2026, 3, 13), QTime(23, 10));
+    type(u"It turns."_s);
+    tick(6);
+    EXPECT_EQ(saveState.text, u"saved 23:10");
+    EXPECT_EQ(project.state.draftFileName, draft);
+    EXPECT_EQ(operationIn(draft), u"It turns.");
+    EXPECT_EQ(drafts().size(), 1);
 }
 
 TEST_F(AutoSaveTest, a_draft_that_was_opened_is_saved_into_itself) {

@@ -129,10 +129,11 @@ protected:
     RecentProjects recent{settings, project};
     DraftNames names{project.fields, workFolders};
     ShadowCopy shadow;
-    ProjectSaver saver{project, workFolders, saveDialog, recent, shadow, title, saveState, prompts};
+    FakeClock clock;
+    ProjectSaver saver{project, workFolders, saveDialog, recent, shadow,
+                       title,   saveState,   prompts,    clock};
     FakePictureReader pictures;
     WorkingCopies copies{project.fields, folders, pictures};
-    FakeClock clock;
     ProjectOpener opener{
         project,    system,
         rules,      navigator,
@@ -144,7 +145,7 @@ protected:
     ProjectCommands commands{project,    navigator,   screen.all, newProject, filer,
                              saveDialog, workFolders, title,      saveState,  prompts};
     QTimer timer;
-    AutoSave autoSave{timer, project, filer, names, saveState};
+    AutoSave autoSave{timer, project, filer, names, saveState, clock};
 };
 
 } // namespace quillford

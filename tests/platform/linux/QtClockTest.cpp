@@ -21,6 +21,14 @@ protected:
 
 } // namespace
 
+TEST_F(QtClockTest, the_date_and_the_time_are_the_desktops) {
+    const QDateTime before = QDateTime::currentDateTime();
+    const QDateTime told = QtClock().dateAndTime();
+    EXPECT_LE(before, told);
+    EXPECT_LE(told, QDateTime::currentDateTime());
+    EXPECT_EQ(told.timeSpec(), Qt::LocalTime);
+}
+
 TEST_F(QtClockTest, the_pace_is_the_environments) {
     EXPECT_EQ(paceFor("0"), 0);
     EXPECT_EQ(paceFor("0.25"), 0.25);
