@@ -230,9 +230,10 @@ TEST_F(HtmlViewTest, a_composed_page_shows_its_figures_in_their_sizes) {
     black.fill(Qt::black);
     pictures.pictures[u"/x#1 50%.png"_s] = black;
     view.resize(400, 300);
-    view.showHtml(u"<head><title>Project - 1</title></head><p class=\"drawing\"> "
-                  "<img src=\"file:////x#1 50%.png\" width =\"120\" height =\"80\"> </p>"_s,
-                  pictures);
+    view.showHtml(
+        u"<head><title>Project - 1</title></head><div class=\"drawings\"><p class=\"drawing\"> "
+        "<img src=\"file:////x#1 50%.png\" width =\"120\" height =\"80\"> </p>"_s,
+        pictures);
     const QImage shot = view.grab().toImage();
     int wide = 0;
     int high = 0;
@@ -246,7 +247,8 @@ TEST_F(HtmlViewTest, a_composed_page_shows_its_figures_in_their_sizes) {
 
 TEST_F(HtmlViewTest, a_figure_is_loaded_when_it_comes_into_sight) {
     view.showHtml(u"<head><title>Project - 1</title></head>"_s + u"<p>line</p>"_s.repeated(100) +
-                      u"<p class=\"drawing\"><img src=\"file:///a.png\" width =\"120\" "
+                      u"<div class=\"drawings\"><p class=\"drawing\"><img src=\"file:///a.png\" "
+                      u"width =\"120\" "
                       "height =\"80\"> </p>"_s,
                   pictures);
     EXPECT_GT(view.document()->size().height(), 100 * 24);

@@ -128,12 +128,19 @@ int Chromium::load(const QString& path) {
     while (!isLoaded_)
         received();
     // Asking for the height has the browser lay out what it has put off.
+    const QJsonValue height =
+        evaluated(QStringLiteral("document.documentElement.getBoundingClientRect().height"));
+    return static_cast<int>(std::ceil(height.toDouble()));
+}
+
+QString Chromium::text() {
+    return evaluated(QStringLiteral("document.body.innerText")).toString();
+}
+
+QJsonValue Chromium::evaluated(const QString& script) {
     const QJsonObject answer =
-        call(QStringLiteral("Runtime.evaluate"),
-             {{QStringLiteral("expression"),
-               QStringLiteral("document.documentElement.getBoundingClientRect().height")}});
-    const QJsonObject height = answer.value(QStringLiteral("result")).toObject();
-    return static_cast<int>(std::ceil(height.value(QStringLiteral("value")).toDouble()));
+        call(QStringLiteral("Runtime.evaluate"), {{QStringLiteral("expression"), script}});
+    return answer.value(QStringLiteral("result"))[QStringLiteral("value")];
 }
 
 QImage Chromium::picture(int top, int height) {
@@ -142,11 +149,16 @@ QImage Chromium::picture(int top, int height) {
           {QStringLiteral("height"), height},
           {QStringLiteral("deviceScaleFactor"), 1},
           {QStringLiteral("mobile"), false}});
-    call(QStringLiteral("Runtime.evaluate"),
-         {{QStringLiteral("expression"), QStringLiteral("scrollTo(0, %1)").arg(top)}});
+    (void)evaluated(QStringLiteral("scrollTo(0, %1)").arg(top));
     const QJsonObject answer = call(QStringLiteral("Page.captureScreenshot"));
     return QImage::fromData(
         QByteArray::fromBase64(answer.value(QStringLiteral("data")).toString().toLatin1()));
+}
+
+QByteArray Chromium::printed() {
+    const QJsonObject answer =
+        call(QStringLiteral("Page.printToPDF"), {{QStringLiteral("preferCSSPageSize"), true}});
+    return QByteArray::fromBase64(answer.value(QStringLiteral("data")).toString().toLatin1());
 }
 
 QJsonObject Chromium::call(const QString& method, const QJsonObject& parameters) {

@@ -29,6 +29,9 @@ public:
     /// `top`, 1 pixel for 1 of the page. Up to 16000 pixels high.
     [[nodiscard]] QImage picture(int top, int height);
 
+    /// The text of the page that was loaded, as it is seen.
+    [[nodiscard]] QString text();
+
     /// Prints the page that was loaded; gives the PDF file's bytes.
     [[nodiscard]] QByteArray printed();
 
@@ -40,6 +43,8 @@ private:
     QJsonObject call(const QString& method, const QJsonObject& parameters = {});
     void send(const QJsonObject& message) const;
     QJsonObject received(); ///< waits for the next message
+
+    [[nodiscard]] QJsonValue evaluated(const QString& script);
 
     int width_;
     QProcess process_;

@@ -117,6 +117,18 @@ Band bandOf(const QTextBlock& block, const QTextLine& line, double blockTop) {
     return band;
 }
 
+/// The first line of a block whose space begins at `top` or below.
+int firstLineBelow(const QTextBlock& block, double blockTop, double top) {
+    int first = 0;
+    int last = block.layout()->lineCount();
+    while (first < last) {
+        const int middle = (first + last) / 2;
+        const bool isAbove = bandOf(block, block.layout()->lineAt(middle), blockTop).top < top;
+        (isAbove ? first : last) = isAbove ? middle + 1 : middle;
+    }
+    return first;
+}
+
 /// The first and the last line of a table stand together with its frame.
 void addTableFrame(Band& band, const QTextDocument& document, const QTextBlock& block) {
     auto* table = qobject_cast<QTextTable*>(document.frameAt(block.position()));
@@ -171,11 +183,12 @@ double PaperText::drawRestOfParagraph(QPainter& painter, const PageCut& cut) con
     const QRectF place = layout.blockBoundingRect(block);
     if (place.top() >= cut.top - 1 || document_->frameAt(position) != document_->rootFrame())
         return cut.top;
-    for (int i = 0; i < block.layout()->lineCount(); ++i) {
+    for (int i = firstLineBelow(block, place.top(), cut.top - Touch);
+         i < block.layout()->lineCount(); ++i) {
         const QTextLine line = block.layout()->lineAt(i);
-        const Band band = bandOf(block, line, place.top());
-        if (band.top >= cut.top - Touch && band.bottom <= cut.bottom + Touch)
-            line.draw(&painter, place.topLeft());
+        if (bandOf(block, line, place.top()).bottom > cut.bottom + Touch)
+            break;
+        line.draw(&painter, place.topLeft());
     }
     const double end = place.bottom() + block.layout()->boundingRect().top();
     return std::min(end + Touch, cut.bottom);

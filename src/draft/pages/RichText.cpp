@@ -79,12 +79,19 @@ std::optional<FigureTag> figureTagAt(QStringView html, qsizetype path) {
     return tag;
 }
 
-/// Gives every figure a name instead of its path. A size that is not known is left out.
+/// Gives every figure a name instead of its path. A size that is not known is left out. Figures are
+/// what stands among the drawings, behind every text but the index: a picture that somebody typed
+/// is none, whatever its tag looks like.
 void nameFigures(RichText& text) {
-    const QStringView html = text.html;
+    const qsizetype drawings = text.html.lastIndexOf(u"<div class=\"drawings\">");
+    if (drawings < 0)
+        return;
+    const qsizetype index = text.html.indexOf(u"<p class=\"centred\">", drawings);
+    const QStringView html = QStringView(text.html).first(index < 0 ? text.html.size() : index);
     QString named;
     qsizetype done = 0;
-    for (qsizetype at = html.indexOf(FigureStart); at >= 0; at = html.indexOf(FigureStart, done)) {
+    for (qsizetype at = html.indexOf(FigureStart, drawings); at >= 0;
+         at = html.indexOf(FigureStart, done)) {
         named += html.sliced(done, at - done);
         done = at + FigureStart.size();
         const auto tag = figureTagAt(html, done);
@@ -101,14 +108,24 @@ void nameFigures(RichText& text) {
         text.figures.append(tag->figure);
         done = tag->end;
     }
-    named += html.sliced(done);
+    named += QStringView(text.html).sliced(done);
     text.html = named;
+}
+
+/// A "<" that opens nothing is text to a browser; the toolkit would swallow what follows. It would
+/// take all of a paragraph for the content of a link to another file as well.
+void keepText(QString& html) {
+    static const QRegularExpression opensNothing(QStringLiteral("<(?![A-Za-z/!?])"));
+    static const QRegularExpression linkedFile(QStringLiteral("<link\\b[^<>]*>"),
+                                               QRegularExpression::CaseInsensitiveOption);
+    html.replace(opensNothing, QStringLiteral("&lt;"));
+    html.remove(linkedFile);
 }
 
 /// Has the paragraph behind each page break begin a page.
 void markNewPages(QString& html) {
     static const QRegularExpression newPage(
-        QStringLiteral("<div class=\"new-page\">.*?</div>\\s*<p "));
+        QStringLiteral("<div class=\"new-page\">(?:<br[^<>]*>)?</div>\\s*<p "));
     html.replace(newPage, QStringLiteral("<p style=\"page-break-before:always\" "));
 }
 
@@ -126,8 +143,9 @@ void splitObjects(QString& html) {
 
 /// A division has no frame of its own: the notice becomes a table of one cell.
 void frameNotice(QString& html) {
-    static const QRegularExpression notice(QStringLiteral("<div class=\"notice\"[^>]*>(.*?)</div>"),
-                                           QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression notice(
+        QStringLiteral("<div class=\"notice\"[^<>]*>(.*?)</div>"),
+        QRegularExpression::DotMatchesEverythingOption);
     const QRegularExpressionMatch match = notice.match(html);
     if (!match.hasMatch())
         return;
@@ -143,7 +161,7 @@ void frameNotice(QString& html) {
 
 /// A paragraph without text has no height, but the toolkit gives its looks to the next one.
 void dropEmptyParagraphs(QString& html) {
-    static const QRegularExpression empty(QStringLiteral("<p(?: [^>]*)?>\\s*</p>"));
+    static const QRegularExpression empty(QStringLiteral("<p(?: [^<>]*)?>\\s*</p>"));
     html.remove(empty);
 }
 
@@ -176,7 +194,7 @@ void alignParagraphs(QString& html, PageKind kind) {
     static const QRegularExpression centred(
         QStringLiteral("(class=\"(?:file-number|notice-head|application|document-kind|section|"
                        "subsection|drawing|figure|centred)\")>"));
-    static const QRegularExpression plain(QStringLiteral("<p((?: (?![^>]*align=)[^>]*)?)>"));
+    static const QRegularExpression plain(QStringLiteral("<p((?: (?![^<>]*align=)[^<>]*)?)>"));
     html.replace(centred, QStringLiteral("align=\"center\" \\1>"));
     if (kind == PageKind::Draft)
         html.replace(plain, QStringLiteral("<p align=\"justify\"\\1>"));
@@ -203,6 +221,7 @@ RichText richTextOf(const QString& page) {
                                                           : QStringLiteral("draft.css"));
     cutStyle(text.html);
     nameFigures(text);
+    keepText(text.html);
     markNewPages(text.html);
     splitObjects(text.html);
     frameNotice(text.html);

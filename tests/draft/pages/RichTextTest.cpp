@@ -119,6 +119,7 @@ TEST_F(RichTextTest, every_figure_has_its_picture) {
 
 TEST_F(RichTextTest, a_typed_tag_that_is_no_figure_s_leaves_the_figures_alone) {
     for (const QString& typed : {u"<img src=\"file:///a.png"_s, u"<img src=\"file:///a.png\">"_s,
+                                 u"<img src=\"file:///a.png\" width =\"9\" height =\"9\">"_s,
                                  u"<img src=\"file:///a.png\" width =\"100000\" height =\"9\">"_s,
                                  u"<img src=\"file:///a.png\" width =\"-1\" height =\"x\">"_s,
                                  u"<img src=\"file:///a.png\" width =\""_s}) {
@@ -128,6 +129,17 @@ TEST_F(RichTextTest, a_typed_tag_that_is_no_figure_s_leaves_the_figures_alone) {
         EXPECT_TRUE(text.html.contains(typed)) << qPrintable(typed);
         EXPECT_TRUE(text.html.contains(u"<img src=\"picture:0\">")) << qPrintable(typed);
     }
+}
+
+TEST_F(RichTextTest, a_sign_that_opens_no_tag_stays_text) {
+    fields.txtPurpose.setText(u"1 < 2 <3 <b>bold</b> < <link href=x>end<"_s);
+    const QString html = draft().html;
+    EXPECT_TRUE(html.contains(u"1 &lt; 2 &lt;3 <b>bold</b> &lt; end&lt;.")) << qPrintable(html);
+}
+
+TEST_F(RichTextTest, blanks_at_the_end_of_a_paragraph_are_cut) {
+    setCount(fields, FieldGroup::Figures, 0);
+    EXPECT_TRUE(draft().html.contains(u"IN THIS PROVISIONAL APPLICATION.</p>"));
 }
 
 TEST_F(RichTextTest, a_picture_s_name_tells_its_index) {
