@@ -43,7 +43,6 @@ int TypingUser::shownMembers(const QString& name) const {
     }
 }
 
-/// Nothing lies over it, and no edge of a view cuts it.
 bool TypingUser::isInView(const QWidget& widget) const {
     const QPoint middle = widget.mapTo(&form_, widget.rect().center());
     const QWidget* const uppermost = form_.childAt(middle);
@@ -86,8 +85,9 @@ void TypingUser::wheelTo(const QWidget& widget) {
     constexpr int MostNotches = 100;
     for (int i = 0; i < MostNotches && !isInView(widget); ++i) {
         const QPoint place = form_.rect().center();
-        QWheelEvent notch(place, form_.mapToGlobal(place), {}, {0, -120}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        const bool isAbove = widget.mapTo(&form_, widget.rect().center()).y() < place.y();
+        QWheelEvent notch(place, form_.mapToGlobal(place), {}, {0, isAbove ? 120 : -120},
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(form_.childAt(place), &notch);
     }
     EXPECT_TRUE(isInView(widget)) << qPrintable(widget.objectName()) << " is out of view";
@@ -112,15 +112,14 @@ void TypingUser::choose(const QString& name, const QString& row) {
     comeBack();
 }
 
-QString TypingUser::shown(const QString& name) const {
-    const QWidget& widget = control(name);
+QString TypingUser::textOf(const QWidget& widget) {
     if (auto* box = qobject_cast<const QCheckBox*>(&widget))
         return QString::number(box->isChecked());
     if (auto* combo = qobject_cast<const FormCombo*>(&widget))
         return combo->text();
     if (auto* line = qobject_cast<const LineField*>(&widget))
         return line->text();
-    return control<TextField>(name).text().replace(u'\n', QStringLiteral("\r\n"));
+    return dynamic_cast<const TextField&>(widget).text().replace(u'\n', QStringLiteral("\r\n"));
 }
 
 void TypingUser::comeBack() {

@@ -45,14 +45,19 @@ public:
     void choose(const QString& name, const QString& row);
 
     /// What the control shows, with the project's line ends; of a check box "0" or "1".
-    [[nodiscard]] QString shown(const QString& name) const;
+    [[nodiscard]] QString shown(const QString& name) const { return textOf(control(name)); }
+
+    /// The same of a control at hand.
+    [[nodiscard]] static QString textOf(const QWidget& widget);
+
+    /// Whether the middle of a control can be clicked: nothing lies over it, and no edge of a view
+    /// cuts it.
+    [[nodiscard]] bool isInView(const QWidget& widget) const;
 
     /// A dialog has closed; without a window manager nobody gives the form the focus back.
     void comeBack();
 
 private:
-    [[nodiscard]] bool isInView(const QWidget& widget) const;
-
     void wheelTo(const QWidget& widget);
 
     QWidget& form_;

@@ -29,6 +29,11 @@ Stream createSection(Storage& root, int section) {
     return createStream(root, ProjectFileFormat::sectionStream(section));
 }
 
+/// The pattern for a folder in which a file is made that will take the place of `path`.
+QString placeBeside(const QString& path) {
+    return QFileInfo(path).absolutePath() + QStringLiteral("/.new-XXXXXX");
+}
+
 /// The number of bytes as it is stored. A file without bytes gives an array without bounds, which
 /// has no count either.
 qint32 storedCount(const QByteArray& bytes, const QString& path) {
@@ -51,13 +56,18 @@ void ProjectWriter::write(const QString& path, Durability durability) {
     bool overwrite = false;
     constexpr bool ansi = true;
     Storage root = CreateStorageFile(path, createProps, ansi, overwrite);
+    if (changesElements(root)) {
+        root = Storage();
+        replaceElementSections(path);
+        root = CreateStorageFile(path, createProps, ansi, overwrite);
+    }
     write(root);
     if (durability == Durability::OnDisk)
         root.Sync();
 }
 
 void ProjectWriter::writeNew(const QString& path, Durability durability) {
-    const QTemporaryDir beside(QFileInfo(path).absolutePath() + QStringLiteral("/.new-XXXXXX"));
+    const QTemporaryDir beside(placeBeside(path));
     if (!beside.isValid())
         throw Error(PathFileAccess, beside.errorString(), path);
     const QString made = beside.filePath(QStringLiteral("project.ivd"));
@@ -65,6 +75,41 @@ void ProjectWriter::writeNew(const QString& path, Durability durability) {
     // Another program may be in the middle of a save into the file that is to go.
     const auto old = QFileInfo::exists(path) ? FileByteStore::open(path) : nullptr;
     takePlaceOf(made, path);
+}
+
+/// One number, in Section 5, counts the panels of Sections 5 to 7, and a reader who counts wrongly
+/// takes the last texts of Section 7 for those of a panel.
+bool ProjectWriter::changesElements(Storage& root) const {
+    try {
+        Stream stream =
+            root.OpenStream(ProjectFileFormat::sectionStream(5), StorageMode::Exclusive);
+        static_cast<void>(stream.ReadData(FieldType::String));
+        const auto stored = std::get<QString>(stream.ReadData(FieldType::String));
+        return stored != fields_.cboMainElementNum.text();
+    } catch (const Error&) {
+        // A new file has no sections yet, and of a damaged one there is nothing to keep together.
+        return false;
+    }
+}
+
+/// Gives the file the Sections 5 to 7 of the project in one step. Where no file can be made beside
+/// it, they are written one after the other with all the rest.
+void ProjectWriter::replaceElementSections(const QString& path) const {
+    const QString place = QFileInfo(path).canonicalFilePath();
+    const QTemporaryDir beside(placeBeside(place));
+    const QString made = beside.filePath(QStringLiteral("project.ivd"));
+    if (!beside.isValid() || !QFile::copy(place, made))
+        return;
+    try {
+        Storage root = OpenStorageFile(made);
+        writeSection5(root);
+        writeSection6(root);
+        writeSection7(root);
+        root.Sync();
+    } catch (const Error&) {
+        return; // the same will be told of the file itself
+    }
+    takePlaceOf(made, place);
 }
 
 void ProjectWriter::write(Storage& root) {
@@ -123,14 +168,21 @@ void ProjectWriter::writeSection5(Storage& root) const {
     writePanels(stream, FieldGroup::MainElements, fields_.panelCount(FieldGroup::MainElements));
 }
 
+/// The panels of Sections 6 and 7 follow the number of Main Elements when the user leaves
+/// Section 5. The file has as many at any time, since its reader counts by that number.
+int ProjectWriter::elementCount(FieldGroup group) const {
+    const int number = fields_.cboMainElementNum.number();
+    return number > 0 ? number : fields_.panelCount(group);
+}
+
 void ProjectWriter::writeSection6(Storage& root) const {
     Stream stream = createSection(root, 6);
-    writePanels(stream, FieldGroup::SubElements, fields_.panelCount(FieldGroup::SubElements));
+    writePanels(stream, FieldGroup::SubElements, elementCount(FieldGroup::SubElements));
 }
 
 void ProjectWriter::writeSection7(Storage& root) const {
     Stream stream = createSection(root, 7);
-    writePanels(stream, FieldGroup::Descriptions, fields_.panelCount(FieldGroup::Descriptions));
+    writePanels(stream, FieldGroup::Descriptions, elementCount(FieldGroup::Descriptions));
     writeField(stream, fields_.txtDesConnections);
     writeField(stream, fields_.txtDesAlterative);
 }
@@ -170,10 +222,16 @@ void ProjectWriter::writeField(Stream& stream, const Field& field) const {
                                                                       : field.text());
 }
 
+/// A panel that is not there yet has empty fields.
 void ProjectWriter::writePanel(Stream& stream, FieldGroup group, int index) const {
-    for (const FieldRow& row : fieldTable())
-        if (row.group == group)
+    for (const FieldRow& row : fieldTable()) {
+        if (row.group != group)
+            continue;
+        if (index < fields_.count(row.id))
             writeField(stream, fields_.at(row.id, index));
+        else
+            stream.WriteData(QString());
+    }
 }
 
 void ProjectWriter::writePanels(Stream& stream, FieldGroup group, int count) const {

@@ -10,7 +10,10 @@
 namespace quillford {
 
 /// Writes a project into its file, stream after stream. An existing file is written over in place:
-/// every stream keeps its old length, and streams that the project no longer has stay.
+/// every stream keeps its old length, and streams that the project no longer has stay. So a program
+/// that is killed leaves every stream as it was or as it is, but for the one that it was writing.
+/// Only where the number of Main Elements changes do the three sections that it counts change in
+/// one step.
 class ProjectWriter {
 public:
     /// How far the bytes have come when `write` returns: handed to the system, or on the disk.
@@ -40,6 +43,9 @@ public:
     void write(Storage& root);
 
 private:
+    [[nodiscard]] bool changesElements(Storage& root) const;
+    void replaceElementSections(const QString& path) const;
+
     void writeVersion(Storage& root) const;
     void writeSection1(Storage& root) const;
     void writeSection2(Storage& root) const;
@@ -55,6 +61,7 @@ private:
 
     void writeField(Stream& stream, const Field& field) const;
     void writePanel(Stream& stream, FieldGroup group, int index) const;
+    [[nodiscard]] int elementCount(FieldGroup group) const;
     void writePanels(Stream& stream, FieldGroup group, int count) const;
 
     [[nodiscard]] QByteArray readFileBytes(const QString& path);

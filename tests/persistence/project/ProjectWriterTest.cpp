@@ -1,7 +1,10 @@
 #include "persistence/project/ProjectWriter.h"
 
 #include "persistence/project/ProjectFileFixture.h"
+#include "persistence/project/ProjectReader.h"
 #include "support/ErrorOf.h"
+
+#include <unistd.h>
 
 using namespace quillford;
 using namespace Qt::Literals::StringLiterals;
@@ -153,6 +156,87 @@ TEST_F(ProjectWriter_, leaves_the_old_tail_behind_a_shorter_section) {
     const qint64 old = sizeOf(u"Section 5"_s);
     write(Project());
     EXPECT_EQ(sizeOf(u"Section 5"_s), old);
+}
+
+TEST_F(ProjectWriter_, keeps_the_last_texts_of_section_7_while_its_panels_wait_for_their_number) {
+    for (const QString& number : {u"5"_s, u"1"_s, u"3"_s}) {
+        Project project; // of three elements
+        for (int i = 0; i < 3; ++i) {
+            project.fields.txtElementSub9(i).setText(u"pin %1"_s.arg(i));
+            project.fields.txtMainElementVariations(i).setText(u"bent %1"_s.arg(i));
+        }
+        project.fields.txtDesConnections.setText(u"joined"_s);
+        project.fields.txtDesAlterative.setText(u"otherwise"_s);
+        write(project);
+        project.fields.cboMainElementNum.setText(number);
+        project.fields.setPanelCount(FieldGroup::MainElements, number.toInt());
+        write(project);
+        Project opened;
+        ASSERT_EQ(read(opened).outcome, ReadReport::Outcome::Read);
+        EXPECT_EQ(opened.fields.txtDesConnections.text(), u"joined"_s) << qPrintable(number);
+        EXPECT_EQ(opened.fields.txtDesAlterative.text(), u"otherwise"_s) << qPrintable(number);
+        ASSERT_EQ(opened.fields.txtElementSub9.count(), number.toInt());
+        for (int i = 0; i < number.toInt(); ++i) {
+            const bool isOld = i < 3;
+            EXPECT_EQ(opened.fields.txtElementSub9(i).text(),
+                      isOld ? u"pin %1"_s.arg(i) : QString());
+            EXPECT_EQ(opened.fields.txtMainElementVariations(i).text(),
+                      isOld ? u"bent %1"_s.arg(i) : QString());
+        }
+    }
+}
+
+TEST_F(ProjectWriter_, changes_the_number_of_elements_and_what_it_counts_in_one_step) {
+    Project project;
+    project.fields.txtDesConnections.setText(u"joined"_s);
+    write(project);
+    const QString before = inFolder(u"before.ivd"_s);
+    ASSERT_EQ(link(qPrintable(file()), qPrintable(before)), 0);
+    project.fields.cboMainElementNum.setText(u"5"_s);
+    project.fields.txtFileNo.setText(u"QF-1"_s);
+    write(project);
+    // What was the file is as it was: another one that was whole took its place.
+    Project old;
+    static_cast<void>(readProject(before, old));
+    EXPECT_EQ(old.fields.cboMainElementNum.text(), u"3"_s);
+    EXPECT_EQ(old.fields.txtDesConnections.text(), u"joined"_s);
+    EXPECT_EQ(texts(u"Section 1"_s, 1), QStringList(u"QF-1"_s));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList({u"before.ivd"_s, u"project.ivd"_s, u"temp"_s}));
+}
+
+TEST_F(ProjectWriter_, writes_a_file_beside_which_none_can_be_made) {
+    Project project;
+    write(project);
+    project.fields.cboMainElementNum.setText(u"5"_s);
+    // The system's own user keeps its group below.
+    constexpr auto Read = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup |
+                          QFile::ReadOther | QFile::ExeOther;
+    QFile::setPermissions(folder.path(), Read);
+    QFile::setPermissions(file(), Read | QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther);
+    // Nothing is forbidden to the system's own user.
+    constexpr uid_t Nobody = 65534;
+    const uid_t user = geteuid();
+    ASSERT_TRUE(user != 0 || seteuid(Nobody) == 0);
+    EXPECT_NO_THROW(write(project));
+    ASSERT_TRUE(user != 0 || seteuid(user) == 0);
+    QFile::setPermissions(folder.path(), Read | QFile::WriteOwner);
+    Project opened;
+    ASSERT_EQ(read(opened).outcome, ReadReport::Outcome::Read);
+    EXPECT_EQ(opened.fields.cboMainElementNum.text(), u"5"_s);
+}
+
+TEST_F(ProjectWriter_, follows_a_link_to_the_file_whose_number_of_elements_changes) {
+    Project project;
+    write(project);
+    const QString real = inFolder(u"real.ivd"_s);
+    ASSERT_TRUE(QFile::rename(file(), real) && QFile::link(real, file()));
+    project.fields.cboMainElementNum.setText(u"5"_s);
+    write(project);
+    EXPECT_TRUE(QFileInfo(file()).isSymLink());
+    Project opened;
+    static_cast<void>(readProject(real, opened));
+    EXPECT_EQ(opened.fields.cboMainElementNum.text(), u"5"_s);
 }
 
 TEST_F(ProjectWriter_, leaves_the_length_of_the_file_at_a_second_save) {

@@ -1,6 +1,7 @@
 #include "persistence/session/SessionFixture.h"
 
 #include <csignal>
+#include <functional>
 #include <random>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -16,7 +17,7 @@ class KilledSession : public SessionFixture {
 protected:
     /// Runs the process until it has saved at least once, kills it within the next milliseconds,
     /// and gives the number of the last text that it has told to be saved.
-    int saveUntilKilled(QString (*text)(int)) {
+    int saveUntilKilled(const std::function<QString(int)>& text) {
         int ends[2];
         EXPECT_EQ(pipe(ends), 0);
         const pid_t child = fork();
@@ -54,7 +55,7 @@ protected:
     static constexpr int Rounds = 40;
 
 private:
-    [[noreturn]] void saveForEver(QString (*text)(int), int end) {
+    [[noreturn]] void saveForEver(const std::function<QString(int)>& text, int end) {
         for (int number = 1;; ++number) {
             type(text(number));
             waitForAutosave();
@@ -118,5 +119,21 @@ TEST_F(KilledSession, a_text_that_grows_and_shrinks_leaves_a_project_that_opens)
         type(u"mended"_s);
         commands.mnuFileSave_Click();
         ASSERT_EQ(operationIn(easel), u"mended");
+    }
+}
+
+TEST_F(KilledSession, a_number_of_elements_that_changes_takes_no_text_behind_them_along) {
+    const QString easel = inProjects(u"easel.ivd"_s);
+    for (int round = 0; round < Rounds; ++round) {
+        makeProject(easel, u"QF-1"_s, u"It folds."_s);
+        ASSERT_TRUE(filer.OpenFile(easel));
+        project.fields.txtDesConnections.setText(u"joined"_s);
+        saveUntilKilled([this](int number) {
+            project.fields.cboMainElementNum.setText(QString::number(3 + number % 2 * 2));
+            return shortText(number);
+        });
+        startAgain();
+        ASSERT_TRUE(filer.OpenFile(easel));
+        ASSERT_EQ(project.fields.txtDesConnections.text(), u"joined"_s);
     }
 }
