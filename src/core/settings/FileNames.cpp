@@ -25,7 +25,8 @@ bool canStandInName(QStringView text, qsizetype at) {
     return text[at].category() != QChar::Other_Control && !NeverInNames.contains(text[at]);
 }
 
-/// The longest beginning of the text that needs at most `bytes` bytes and splits no character.
+} // namespace
+
 QString cutToBytes(const QString& text, qsizetype bytes) {
     const QByteArray encoded = text.toUtf8();
     if (encoded.size() <= bytes)
@@ -36,8 +37,6 @@ QString cutToBytes(const QString& text, qsizetype bytes) {
         --end;
     return QString::fromUtf8(encoded.first(end));
 }
-
-} // namespace
 
 QString fileNameWith(const QString& prefix, const QString& fileNo, const QString& ending) {
     const QStringView typed = trimBlanks(fileNo);

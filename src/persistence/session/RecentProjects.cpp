@@ -1,5 +1,6 @@
 #include "persistence/session/RecentProjects.h"
 
+#include "core/settings/FileNames.h"
 #include "core/settings/SettingsNames.h"
 #include "persistence/project/WorkingCopies.h"
 
@@ -179,9 +180,16 @@ void RecentProjects::addRecentEntry(const QString& entry, bool refresh) {
         refreshRecentProjects();
 }
 
+/// Of a longer entry the settings would not give the end back, and with it the mark; so it is the
+/// title and the number that are cut.
 QString RecentProjects::entryOf(const QString& path) const {
-    return path + u'|' + project_.fields.txtFileNo.trimmedText() + u'|' +
-           project_.fields.txtInventionTitle.trimmedText();
+    constexpr qsizetype Bars = 2;
+    const qsizetype room =
+        Settings::MostBytesRead - path.toUtf8().size() - Bars - OpenMarker.size();
+    const QString title = cutToBytes(project_.fields.txtInventionTitle.trimmedText(), room / 2);
+    const QString number =
+        cutToBytes(project_.fields.txtFileNo.trimmedText(), room - title.toUtf8().size());
+    return path + u'|' + number + u'|' + title;
 }
 
 void RecentProjects::projectSaved(const QString& path, bool refresh) {

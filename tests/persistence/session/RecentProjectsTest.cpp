@@ -385,3 +385,20 @@ TEST_F(RecentProjectsTest, settings_that_fail_leave_the_list_without_a_word) {
     store.cannotRead = false;
     EXPECT_EQ(listed(), QStringList({bare(u"a"_s)}));
 }
+
+TEST_F(RecentProjectsTest, a_file_number_of_any_length_leaves_the_mark_of_the_open_project) {
+    const QString path = u"/p/easel.ivd"_s;
+    for (const QString& text : {u"x"_s, u"\u92fc"_s, u"\U0001F600"_s})
+        for (const bool hasTitle : {false, true}) {
+            list({});
+            project.fields.txtFileNo.setText(text.repeated(20000));
+            project.fields.txtInventionTitle.setText(hasTitle ? text.repeated(20000) : u"Easel"_s);
+            recent.projectSaved(path, false);
+            const QString entry = listed().value(0);
+            EXPECT_TRUE(entry.startsWith(path + u'|' + text)) << qPrintable(entry.left(50));
+            EXPECT_TRUE(entry.endsWith((hasTitle ? text : u"Easel"_s) + u"|FILEOPEN"_s));
+            EXPECT_EQ(entry.count(u'|'), 3);
+            recent.loadRecentProjects(false);
+            EXPECT_EQ(menu(), QStringList(u"&1 - easel (RECOVERED FILE)"_s));
+        }
+}
