@@ -63,8 +63,10 @@ QString reasonNotWritten(const QString& path, const Error& failure) {
         return QStringLiteral("folder is read-only");
     if (QFileInfo(path).isDir())
         return QStringLiteral("a folder has this name");
+    if (QFileInfo::exists(path) && !QFileInfo(path).isWritable())
+        return QStringLiteral("file is read-only");
     if (failure.description() == QString::fromLocal8Bit(strerror(ENOSPC)))
-        return QStringLiteral("disk is full");
+        return QStringLiteral("disk full");
     return failure.description();
 }
 

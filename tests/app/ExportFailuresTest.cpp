@@ -1,7 +1,7 @@
 #include "app/ProgramFixture.h"
 #include "support/Files.h"
 #include "support/FullDisk.h"
-#include "support/MountedFolder.h"
+#include "support/SmallDisk.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -39,23 +39,24 @@ protected:
 } // namespace
 
 TEST_F(ExportFailuresTest, a_read_only_folder_is_told) {
-    const MountedFolder folder(place(u"fixed"_s), {}, MS_RDONLY);
-    if (!folder.isMounted())
-        GTEST_SKIP() << "this user may not mount, so that no folder is read-only";
+    const SmallDisk disk(place(u"fixed"_s), 4);
+    if (!disk.isThere())
+        GTEST_SKIP() << NoSmallDisk;
+    disk.setWritable(false);
     EXPECT_EQ(lineAfterExport(place(u"fixed"_s)), u"not exported: folder is read-only"_s);
 }
 
 TEST_F(ExportFailuresTest, a_full_disk_is_told) {
-    const MountedFolder folder(place(u"small"_s), "size=4k");
-    if (!folder.isMounted())
-        GTEST_SKIP() << "this user may not mount, so that no disk is full";
-    EXPECT_EQ(lineAfterExport(place(u"small"_s)), u"not exported: disk is full"_s);
+    const SmallDisk disk(place(u"small"_s), 4);
+    if (!disk.isThere())
+        GTEST_SKIP() << NoSmallDisk;
+    EXPECT_EQ(lineAfterExport(place(u"small"_s)), u"not exported: disk full"_s);
 }
 
 TEST_F(ExportFailuresTest, an_older_file_stays_on_a_full_disk) {
-    const MountedFolder folder(place(u"small"_s), "size=8k");
-    if (!folder.isMounted())
-        GTEST_SKIP() << "this user may not mount, so that no disk is full";
+    const SmallDisk disk(place(u"small"_s), 8);
+    if (!disk.isThere())
+        GTEST_SKIP() << NoSmallDisk;
     const QString path = place(u"small/draft.htm"_s);
     writeFile(path, "old");
     whenAsked(u"Verify Final Draft?"_s, presses(u"cmdSkip"_s));
@@ -66,7 +67,7 @@ TEST_F(ExportFailuresTest, an_older_file_stays_on_a_full_disk) {
         ModalUser::pressByKeys(box, box.button(QMessageBox::Yes)); // overwrite
     });
     click(u"imgCreateToFile(2)"_s);
-    EXPECT_EQ(line().text(), u"not exported: disk is full"_s);
+    EXPECT_EQ(line().text(), u"not exported: disk full"_s);
     EXPECT_EQ(contentOf(path), "old");
     EXPECT_EQ(contentsOf(place(u"small"_s)), QStringList{u"draft.htm"_s});
 }

@@ -114,11 +114,9 @@ TEST_F(SavingTroubleTest, a_disk_that_fills_up_is_told_and_the_timer_saves_once_
 }
 
 TEST_F(SavingTroubleTest, a_disk_that_is_really_full_is_told_too) {
-    const QString folder = place(u"stick"_s);
-    ASSERT_TRUE(QDir().mkdir(folder));
-    const SmallDisk disk(folder, 440);
+    const SmallDisk disk(place(u"stick"_s), 440);
     if (!disk.isThere())
-        GTEST_SKIP() << "only the system's administrator can put a small disk here";
+        GTEST_SKIP() << NoSmallDisk;
     const QString path = sampleProject(u"stick/easel.ivd"_s);
     start({path});
     writeMuch();
@@ -214,10 +212,10 @@ TEST_F(SavingTroubleTest, a_folder_that_cannot_be_made_again_is_told_until_it_is
     write(u"It turns."_s);
     ASSERT_TRUE(QDir().rename(place(u"stick"_s), place(u"gone"_s)));
     letTimerSave();
-    expectNotSaved(u"no folder"_s);
+    expectNotSaved(u"folder does not exist"_s);
     expectBox(u"The folder could not be found."_s);
     save();
-    expectNotSaved(u"no folder"_s);
+    expectNotSaved(u"folder does not exist"_s);
     ASSERT_TRUE(QDir().rename(place(u"gone"_s), place(u"stick"_s)));
     expectTimerSaves(path);
 }
@@ -225,19 +223,18 @@ TEST_F(SavingTroubleTest, a_folder_that_cannot_be_made_again_is_told_until_it_is
 // A file that cannot be written
 
 TEST_F(SavingTroubleTest, a_disk_that_became_read_only_is_told_and_can_be_left) {
-    ASSERT_TRUE(QDir().mkdir(place(u"stick"_s)));
     const SmallDisk disk(place(u"stick"_s), 4000);
     if (!disk.isThere())
-        GTEST_SKIP() << "only the system's administrator can put a small disk here";
+        GTEST_SKIP() << NoSmallDisk;
     const QString path = sampleProject(u"stick/easel.ivd"_s);
     start({path});
     disk.setWritable(false);
     write(u"It turns."_s);
     letTimerSave();
-    expectNotSaved(u"no access"_s);
+    expectNotSaved(u"folder is read-only"_s);
     expectBox(u"Access is denied."_s);
     save();
-    expectNotSaved(u"no access"_s);
+    expectNotSaved(u"folder is read-only"_s);
     disk.setWritable(true);
     expectTimerSaves(path);
     disk.setWritable(false);
@@ -257,7 +254,7 @@ TEST_F(SavingTroubleTest, a_folder_in_the_files_place_is_told_until_the_place_is
     ASSERT_TRUE(QFile::remove(path));
     ASSERT_TRUE(QDir().mkdir(path));
     letTimerSave();
-    expectNotSaved(u"no access"_s);
+    expectNotSaved(u"a folder has this name"_s);
     ASSERT_TRUE(QDir().rmdir(path));
     expectTimerSaves(path);
 }

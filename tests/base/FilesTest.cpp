@@ -56,3 +56,12 @@ TEST_F(Files, a_file_takes_the_place_of_another_or_says_why_not) {
     EXPECT_EQ(names(), QStringList({u"file"_s}));
     EXPECT_EQ(errorOf([&] { takePlaceOf(made, path); }).source(), path);
 }
+
+TEST_F(Files, why_one_was_not_written_is_told_by_what_stands_in_its_way) {
+    const Error failure(13, u"Permission denied"_s);
+    EXPECT_EQ(reasonNotWritten(path, failure), u"Permission denied"_s);
+    EXPECT_EQ(reasonNotWritten(path, Error(28, u"No space left on device"_s)), u"disk full"_s);
+    EXPECT_EQ(reasonNotWritten(folder.path(), failure), u"a folder has this name"_s);
+    EXPECT_EQ(reasonNotWritten(folder.filePath(u"none/file"_s), failure),
+              u"folder does not exist"_s);
+}

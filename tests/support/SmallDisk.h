@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDir>
 #include <QFile>
 #include <QString>
 
@@ -11,11 +12,16 @@
 
 namespace quillford {
 
-/// A disk of a few bytes in a folder's place for a scope, which really fills up. Only the system's
+/// Why a test that needs a `SmallDisk` is skipped.
+constexpr const char* NoSmallDisk = "only the system's administrator can put a small disk here";
+
+/// A disk of a few bytes in a folder for a scope, which really fills up. Only the system's
 /// administrator may do that: elsewhere there is none, and `isThere` says so.
 class SmallDisk {
 public:
+    /// Makes the folder, too.
     SmallDisk(const QString& folder, int kilobytes) : folder_(QFile::encodeName(folder)) {
+        EXPECT_TRUE(QDir().mkpath(folder));
         isThere_ = mount("none", folder_.constData(), "tmpfs", 0, size(kilobytes).constData()) == 0;
     }
 

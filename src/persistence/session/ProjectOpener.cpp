@@ -5,7 +5,7 @@
 #include "core/settings/PathParts.h"
 #include "persistence/project/ResumeNext.h"
 #include "persistence/project/WorkingCopies.h"
-#include "persistence/session/SaveFailure.h"
+#include "persistence/session/ReasonNotSaved.h"
 
 #include <QFileInfo>
 #include <QScopedValueRollback>
@@ -190,8 +190,9 @@ void ProjectOpener::makeShadow(const QString& path) {
     state.shadowFileName = filing_.names.newShadowFileName();
     ResumeNext resumeNext;
     if (!resumeNext([&] { filing_.saver.writeShadow(); }))
-        filing_.saveState.showSaveState(QStringLiteral("no backup: ") +
-                                        briefReason(*resumeNext.firstFailure()));
+        filing_.saveState.showSaveState(
+            QStringLiteral("no backup: ") +
+            reasonNotSaved(state.shadowFileName, *resumeNext.firstFailure()));
 }
 
 void ProjectOpener::finish() {

@@ -4,7 +4,7 @@
 #include "core/settings/PathParts.h"
 #include "persistence/project/ProjectWriter.h"
 #include "persistence/project/WorkingCopies.h"
-#include "persistence/session/SaveFailure.h"
+#include "persistence/session/ReasonNotSaved.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -44,7 +44,8 @@ bool ProjectSaver::SaveFile() {
     try {
         return save();
     } catch (const Error& failure) {
-        saveState_.showSaveState(QStringLiteral("not saved: ") + briefReason(failure));
+        saveState_.showSaveState(QStringLiteral("not saved: ") +
+                                 reasonNotSaved(project_.state.projectFileName, failure));
         throw;
     }
 }

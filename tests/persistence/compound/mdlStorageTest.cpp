@@ -2,14 +2,13 @@
 
 #include "persistence/compound/FileByteStore.h"
 #include "support/CompoundTesting.h"
+#include "support/FullDisk.h"
 #include "support/PrintQt.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -180,16 +179,11 @@ TEST_F(StorageFile, that_is_read_only_is_refused) {
 }
 
 TEST_F(StorageFile, that_cannot_be_filled_is_not_left_behind) {
-    // The system refuses to let any file of this process grow, as a full disk does.
-    rlimit old{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
-    const auto before = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit none{0, old.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
     props_ = true;
-    Storage storage = create();
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &old), 0);
-    std::signal(SIGXFSZ, before);
+    Storage storage = [this] {
+        const FullDisk disk(0);
+        return create();
+    }();
     EXPECT_EQ(errorOf([&] { storage.Commit(0); }), 0x80030070);
     EXPECT_FALSE(QFile::exists(path()));
 }

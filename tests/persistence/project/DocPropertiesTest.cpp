@@ -1,9 +1,8 @@
 #include "persistence/project/DocProperties.h"
 
 #include "DocPropertiesFixture.h"
+#include "support/FullDisk.h"
 
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace quillford;
 using namespace std::chrono_literals;
@@ -20,28 +19,6 @@ class DocPropertiesTest : public DocPropertiesFixture {};
 
 using DocPropertiesBinding = DocPropertiesTest;
 using DocPropertiesTransaction = DocPropertiesTest;
-
-/// No file can grow beyond a size: a full disk.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit now{size, before_.rlim_max};
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &now), 0);
-    }
-
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-    ~FileSizeLimit() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-
-private:
-    rlimit before_{};
-    void (*handler_)(int);
-};
 
 void expectError(const std::optional<Error>& error, const QString& description) {
     ASSERT_TRUE(error);
@@ -416,7 +393,7 @@ TEST_F(DocPropertiesTransaction, holds_what_could_not_be_written_until_it_can) {
     p.BindToFile(file());
     p.setTitle(QString(100'000, u'x'));
     {
-        const FileSizeLimit limit(static_cast<rlim_t>(bytes().size()));
+        const FullDisk disk(static_cast<rlim_t>(bytes().size()));
         EXPECT_EQ(numberOfError([&] { p.Save(); }), numberOf(StorageCode::MediumFull));
     }
     EXPECT_EQ(p.Title().size(), 100'000);

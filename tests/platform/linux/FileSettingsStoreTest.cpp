@@ -3,13 +3,12 @@
 #include "base/Error.h"
 #include "platform/linux/FileLock.h"
 #include "support/Files.h"
+#include "support/FullDisk.h"
 #include "support/PrintQt.h"
 
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -41,30 +40,6 @@ private:
     static void become(uid_t user) { EXPECT_EQ(setresuid(user, user, NotChanged), 0); }
 
     uid_t user_;
-};
-
-/// No file can grow beyond `bytes` for a scope, as on a disk that is full.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{bytes, before_.rlim_max};
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    }
-
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    FullDisk(FullDisk&&) = delete;
-    FullDisk& operator=(FullDisk&&) = delete;
-
-private:
-    rlimit before_{};
-    void (*handler_)(int);
 };
 
 void setMode(const QString& path, mode_t mode) {
