@@ -2,7 +2,6 @@
 #include "core/wizard/FocusOrder.h"
 #include "support/Files.h"
 #include "typed/SampleTypist.h"
-#include "verification/dialogs/ReportSurface.h"
 
 #include <QLabel>
 
@@ -53,11 +52,10 @@ protected:
     void goToWhatIsMissing() {
         whenAsked(u"Verify Final Draft?"_s, presses(u"cmdVerify"_s));
         whenAsked(u"Verification Found Possible Errors"_s, [](QDialog& dialog) {
-            auto* const report = dialog.findChild<ReportSurface*>();
+            auto* const report = dialog.findChild<QWidget*>(u"picErrorReport"_s);
             ASSERT_TRUE(report);
             EXPECT_TRUE(report->accessibleDescription().contains(u"gyroscope"_s));
-            report->setFocus();
-            QTest::keyClick(report, Qt::Key_Return);
+            ModalUser::pressByKeys(dialog, report);
         });
         hands->click(u"imgCreateToFile(2)"_s);
         hands->comeBack();
