@@ -234,7 +234,7 @@ TEST_F(TwoProgramsTest, a_project_that_is_being_saved_is_not_saved_over) {
     start({sampleProject()});
     stopInSave(other, path);
     // The dialog asks within itself whether the file is to be replaced.
-    whenAsked({}, [path](QDialog& dialog) {
+    whenAsked(u"Save As"_s, [path](QDialog& dialog) {
         dialog.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(path);
         QMetaObject::invokeMethod(&dialog, "accept", Qt::QueuedConnection);
     });
