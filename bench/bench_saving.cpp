@@ -21,9 +21,10 @@
 /// How long the running program stands still while it saves on its own, beside a plain function in
 /// the same event loop that moves the same bytes: it reads the project file's tables, reads each
 /// picture, writes texts and pictures into one file in the same folder, and reads the settings as
-/// often. Neither side syncs a save that nobody asked for. The first save after the opening, which
-/// writes what the settings tell of the project, is counted apart, and so is the opening, which
-/// makes the backup copy.
+/// often, without their lock. Neither side syncs a save that nobody asked for. The timer's ticks
+/// are sent without its pauses. The first save after the opening, which writes what the settings
+/// tell of the project, is counted apart. The opening, which makes the backup copy, is not
+/// measured.
 namespace quillford {
 
 namespace {
