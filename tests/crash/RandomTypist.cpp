@@ -32,12 +32,19 @@ bool isTyped(const FieldRow& row) {
 RandomTypist::RandomTypist(TypingUser& user, SaveJournal& journal, quint32 seed,
                            QStringList pictures)
     : user_(user), journal_(journal), pictures_(std::move(pictures)), chance_(seed) {
-    windows_.passMessageWindow(QStringLiteral("Section Not Complete"), QStringLiteral("cmdYes"));
-    windows_.passMessageWindow(QStringLiteral("Drawings - Important Information!"),
-                               QStringLiteral("cmdOK"));
+    passMessages(QStringLiteral("Section Not Complete"), QStringLiteral("cmdYes"));
+    passMessages(QStringLiteral("Drawings - Important Information!"), QStringLiteral("cmdOK"));
     timer_.setInterval(Pace);
     connect(&timer_, &QTimer::timeout, this, &RandomTypist::act);
     timer_.start();
+}
+
+/// He has had enough of these windows, and tells each not to come again.
+void RandomTypist::passMessages(const QString& title, const QString& button) {
+    windows_.passes(title, [button](QDialog& window) {
+        ModalUser::pressByKeys(window, window.findChild<QWidget*>(QStringLiteral("chkShowMsg")));
+        ModalUser::pressByKeys(window, window.findChild<QWidget*>(button));
+    });
 }
 
 /// Some deeds wait for windows, and the next act must not come in between.
@@ -129,7 +136,7 @@ void RandomTypist::attachPicture() {
     const int figures = numberIn(FieldId::cboFiguresNum);
     if (tab_ != 3 || figures == 0)
         return goToField();
-    windows_.expectFileDialog(pictures_[below(static_cast<int>(pictures_.size()))]);
+    windows_.isAskedForFile(pictures_[below(static_cast<int>(pictures_.size()))]);
     user_.tabTo(controlName(u"imgBrowse", below(figures)));
     user_.press(Qt::Key_Space);
     user_.comeBack();
@@ -146,7 +153,7 @@ void RandomTypist::saveAs() {
     // A click that makes the form the active window may close the menu again.
     if (!QApplication::activePopupWidget())
         return;
-    windows_.expectFileDialog(path);
+    windows_.isAskedForFile(path);
     journal_.save(path, [this] { user_.press(Qt::Key_A); });
     user_.comeBack();
 }

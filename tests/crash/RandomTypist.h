@@ -2,7 +2,7 @@
 
 #include "core/fields/FieldTable.h"
 #include "crash/SaveJournal.h"
-#include "typed/AnsweredWindows.h"
+#include "support/ModalUser.h"
 #include "typed/TypingUser.h"
 
 #include <QPointer>
@@ -23,6 +23,8 @@ public:
     RandomTypist(TypingUser& user, SaveJournal& journal, quint32 seed, QStringList pictures);
 
 private:
+    void passMessages(const QString& title, const QString& button);
+
     void act();
     void typeOn();
     void choose();
@@ -42,7 +44,7 @@ private:
     TypingUser& user_;
     SaveJournal& journal_;
     QStringList pictures_;
-    AnsweredWindows windows_;
+    ModalUser windows_;
     std::mt19937 chance_;
     QTimer timer_;
     QPointer<QWidget> field_;

@@ -50,7 +50,7 @@ QJsonArray rowsShown(const QWidget& form, bool menu) {
 int look(Program& program, const QString& place) {
     if (!program.start({}))
         return 1;
-    const AnsweredWindows nobodyAsks;
+    const ModalUser nobodyAsks;
     TypingUser user(program.window()->form());
     QJsonObject report{{u"page"_s, rowsShown(user.form(), false)},
                        {u"menu"_s, rowsShown(user.form(), true)}};

@@ -48,12 +48,21 @@ ModalUser::~ModalUser() {
 }
 
 ModalUser& ModalUser::isAsked(const QString& title, const Answer& answer) {
-    return expects(
-        title,
-        [title](QWidget& shown) {
-            return qobject_cast<QDialog*>(&shown) && shown.windowTitle() == title;
-        },
-        [answer](QWidget& shown) { answer(*qobject_cast<QDialog*>(&shown)); });
+    steps_.push_back(dialogStep(title, answer));
+    return *this;
+}
+
+ModalUser& ModalUser::passes(const QString& title, const Answer& answer) {
+    passed_.push_back(dialogStep(title, answer));
+    return *this;
+}
+
+ModalUser::Step ModalUser::dialogStep(const QString& title, const Answer& answer) {
+    return {title,
+            [title](QWidget& shown) {
+                return qobject_cast<QDialog*>(&shown) && shown.windowTitle() == title;
+            },
+            [answer](QWidget& shown) { answer(*qobject_cast<QDialog*>(&shown)); }};
 }
 
 ModalUser& ModalUser::isAsked(const QString& title, QMessageBox::StandardButton button,
@@ -107,14 +116,24 @@ void ModalUser::look() {
         meet(*shown);
 }
 
+std::optional<ModalUser::Step> ModalUser::takeStepFor(QWidget& shown) {
+    if (!steps_.empty() && steps_.front().fits(shown)) {
+        Step step = std::move(steps_.front());
+        steps_.pop_front();
+        return step;
+    }
+    for (const Step& step : passed_)
+        if (step.fits(shown))
+            return step;
+    return std::nullopt;
+}
+
 void ModalUser::meet(QWidget& shown) {
     const bool isNew = met_ != &shown;
-    if (!steps_.empty() && steps_.front().fits(shown)) {
-        const Step step = std::move(steps_.front());
-        steps_.pop_front();
+    if (const std::optional<Step> step = takeStepFor(shown)) {
         met_ = &shown;
         patience_ = QDeadlineTimer(Patience);
-        step.act(shown);
+        step->act(shown);
     } else if (isNew || patience_.hasExpired()) {
         met_ = &shown;
         patience_ = QDeadlineTimer(Patience);

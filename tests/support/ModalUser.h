@@ -43,6 +43,9 @@ public:
     ModalUser& isAsked(const QString& title, QMessageBox::StandardButton button,
                        const std::optional<QString>& text = {});
 
+    /// A dialog with this title, as often as it comes, between two steps as well; it need not come.
+    ModalUser& passes(const QString& title, const Answer& answer);
+
     /// A file dialog, into which the path is typed; with an empty one it is left by Escape.
     ModalUser& isAskedForFile(const QString& path);
 
@@ -62,14 +65,18 @@ private:
         std::function<void(QWidget&)> act;
     };
 
+    [[nodiscard]] static Step dialogStep(const QString& title, const Answer& answer);
+
     ModalUser& expects(const QString& what, const std::function<bool(QWidget&)>& fits,
                        const std::function<void(QWidget&)>& act);
+    [[nodiscard]] std::optional<Step> takeStepFor(QWidget& shown);
     void lookAgain();
     void look();
     void meet(QWidget& shown);
     void refuse(QWidget& shown) const;
 
     std::deque<Step> steps_;
+    std::deque<Step> passed_;
     QPointer<QWidget> met_; ///< the window that a step was done for, or that was refused
     QDeadlineTimer patience_;
 };

@@ -98,6 +98,8 @@ void ProjectWriter::replaceElementSections(const QString& path) const {
     const QString place = QFileInfo(path).canonicalFilePath();
     const QTemporaryDir beside(placeBeside(place));
     const QString made = beside.filePath(QStringLiteral("project.ivd"));
+    // Another program may have begun a save into the file meanwhile.
+    const auto old = FileByteStore::open(place);
     if (!beside.isValid() || !QFile::copy(place, made))
         return;
     try {
