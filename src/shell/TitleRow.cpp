@@ -23,7 +23,10 @@ TitleRow::TitleRow(QWidget& form)
     caption_->setFont(bold);
 }
 
+/// Every save tells the caption anew, and fitting the same one in again would take a tenth of it.
 void TitleRow::setCaption(const QString& caption) {
+    if (caption == form_.windowTitle())
+        return;
     form_.setWindowTitle(caption);
     caption_->setText(
         caption_->fontMetrics().elidedText(caption, Qt::ElideMiddle, caption_->width()));
