@@ -11,7 +11,7 @@
 
 #include <QAction>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <functional>
 #include <gtest/gtest.h>

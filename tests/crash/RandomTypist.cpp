@@ -7,7 +7,7 @@
 #include <QClipboard>
 #include <QFileInfo>
 #include <QScopedValueRollback>
-#include <QtTest>
+#include <QTest>
 
 namespace quillford {
 

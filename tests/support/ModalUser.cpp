@@ -6,7 +6,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPrintDialog>
-#include <QtTest>
+#include <QTest>
 
 #include <chrono>
 

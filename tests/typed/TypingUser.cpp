@@ -10,7 +10,7 @@
 #include <QCheckBox>
 #include <QWheelEvent>
 #include <QWindow>
-#include <QtTest>
+#include <QTest>
 
 #include <gtest/gtest.h>
 

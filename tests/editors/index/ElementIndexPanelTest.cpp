@@ -3,7 +3,7 @@
 #include "editors/pages/ElementPagesFixture.h"
 
 #include <QImage>
-#include <QtTest>
+#include <QTest>
 
 using namespace quillford;
 using namespace Qt::Literals::StringLiterals;

@@ -4,7 +4,7 @@
 #include "support/PeakMemory.h"
 
 #include <QClipboard>
-#include <QtTest>
+#include <QTest>
 
 using namespace quillford;
 using namespace Qt::Literals::StringLiterals;

@@ -1,6 +1,6 @@
 #include "editors/pages/FiguresPageFixture.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 

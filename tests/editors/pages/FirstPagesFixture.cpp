@@ -7,7 +7,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QtTest>
+#include <QTest>
 
 namespace quillford {
 

@@ -7,7 +7,7 @@
 #include "editors/pages/FiguresPageFixture.h"
 #include "shell/TabWalk.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace quillford;
 using namespace Qt::Literals::StringLiterals;

@@ -3,7 +3,7 @@
 #include "editors/pages/FirstPagesFixture.h"
 
 #include <QCheckBox>
-#include <QtTest>
+#include <QTest>
 
 using namespace quillford;
 using namespace Qt::Literals::StringLiterals;

@@ -5,7 +5,7 @@
 #include "controls/TextField.h"
 #include "editors/pages/ElementPagesFixture.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace quillford;
 using namespace Qt::Literals::StringLiterals;

@@ -2,7 +2,7 @@
 
 #include "editors/pages/FirstPagesFixture.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace quillford;
 using namespace Qt::Literals::StringLiterals;

@@ -4,7 +4,7 @@
 #include "controls/FramePanel.h"
 
 #include <QListView>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 
