@@ -4,6 +4,8 @@
 #include "core/settings/FileNames.h"
 #include "core/settings/PathParts.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <array>
 
@@ -58,8 +60,20 @@ QString SaveDialog::ask(const QString& extension) {
         question.name = proposedName(kind->prefix.toString(), kind->ending.toString(),
                                      kind->freeExtension.toString());
     }
-    const QString path = prompts_.chooseFileToSave(question);
-    return path.isEmpty() || hasEnding(path, ending) ? path : path + ending;
+    QString path;
+    do
+        path = prompts_.chooseFileToSave(question);
+    while (!path.isEmpty() && !hasEnding(path, ending) && !mayTake(path += ending));
+    return path;
+}
+
+/// The dialog has asked about the name that was chosen, but not about what becomes of it here.
+bool SaveDialog::mayTake(const QString& path) {
+    const QFileInfo file(path);
+    return !file.isFile() ||
+           prompts_.askYesNo(UserPrompts::Icon::Exclamation, QStringLiteral("Save As"),
+                             QStringLiteral("%1 already exists.\nDo you want to replace it?")
+                                 .arg(file.fileName()));
 }
 
 QString SaveDialog::askForProject() {

@@ -20,7 +20,8 @@ public:
     /// used last, whatever folder the dialog shows.
     ///
     /// A name with another ending gets the point and the extension behind it; so does the "htm"
-    /// dialog's own proposal, which ends in "html". Empty when the user cancels.
+    /// dialog's own proposal, which ends in "html". Where a file has that name, the user is asked
+    /// whether to replace it, and chooses anew if not. Empty when he cancels.
     [[nodiscard]] QString ask(const QString& extension);
 
     /// Asks for the file of a project, again and again while the user chooses one among the working
@@ -28,6 +29,7 @@ public:
     [[nodiscard]] QString askForProject();
 
 private:
+    [[nodiscard]] bool mayTake(const QString& path);
     [[nodiscard]] QString proposedName(const QString& prefix, const QString& ending,
                                        const QString& freeExtension);
 

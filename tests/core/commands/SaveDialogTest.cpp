@@ -113,6 +113,25 @@ TEST_F(SaveDialogTest, a_name_with_another_ending_gets_this_one_behind_it) {
     EXPECT_EQ(choose(u"doc"_s, u"/home/ann/doc"_s), u"/home/ann/doc.doc");
 }
 
+TEST_F(SaveDialogTest, a_name_that_is_in_use_only_with_its_ending_is_asked_about_too) {
+    const QString typed = home.filePath(u"easel 2.0"_s);
+    writeFile(typed + u".ivd"_s);
+    prompts.yesNoAnswers = {true};
+    EXPECT_EQ(choose(u"ivd"_s, typed), typed + u".ivd"_s);
+    EXPECT_EQ(prompts.boxes, std::vector({FakePrompts::Box{
+                                 UserPrompts::Icon::Exclamation, u"Save As"_s,
+                                 u"easel 2.0.ivd already exists.\nDo you want to replace it?"_s}}));
+}
+
+TEST_F(SaveDialogTest, a_name_that_is_not_to_be_replaced_is_asked_for_again) {
+    writeFile(home.filePath(u"easel.ivd"_s));
+    prompts.yesNoAnswers = {false, false};
+    prompts.filesToSave = {home.filePath(u"easel"_s), home.filePath(u"easel"_s),
+                           home.filePath(u"stand"_s)};
+    EXPECT_EQ(dialog.ask(u"ivd"_s), home.filePath(u"stand.ivd"_s));
+    EXPECT_EQ(prompts.fileQuestions.size(), 3U);
+}
+
 TEST_F(SaveDialogTest, the_proposed_html_name_comes_back_with_both_endings) {
     const QString name = proposal(u"htm"_s);
     EXPECT_EQ(choose(u"htm"_s, u"/home/ann/"_s + name), u"/home/ann/Final - 1.html.htm");
