@@ -7,6 +7,8 @@
 #include "persistence/compound/mdlStorage.h"
 #include "persistence/project/ProjectFileFormat.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
@@ -29,9 +31,36 @@ Stream createSection(Storage& root, int section) {
     return createStream(root, ProjectFileFormat::sectionStream(section));
 }
 
+/// What is made in a folder beside a project, of which nothing stays unless the program is killed.
+const QString MadeFile = QStringLiteral("project.ivd");
+
+/// Takes away what killed programs have left in a folder. What another one has just made there is
+/// not a day old, and of what anybody else may have put there nothing is touched.
+void removeLeftovers(const QDir& folder) {
+    const QDateTime yesterday = QDateTime::currentDateTime().addDays(-1);
+    const QFileInfoList found = folder.entryInfoList({QStringLiteral(".new-??????")},
+                                                     QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
+    for (const QFileInfo& left : found) {
+        if (left.lastModified() >= yesterday)
+            continue;
+        const QDir place(left.filePath());
+        // The toolkit copies into a file of its own and gives it its name at the end.
+        for (const QString& file :
+             place.entryList({MadeFile, QStringLiteral("qt_temp.*")}, QDir::Files | QDir::Hidden))
+            QFile::remove(place.filePath(file));
+        folder.rmdir(left.fileName());
+    }
+}
+
 /// The pattern for a folder in which a file is made that will take the place of `path`.
 QString placeBeside(const QString& path) {
-    return QFileInfo(path).absolutePath() + QStringLiteral("/.new-XXXXXX");
+    const QDir folder = QFileInfo(path).absoluteDir();
+    removeLeftovers(folder);
+    return folder.filePath(QStringLiteral(".new-XXXXXX"));
+}
+
+bool haveOneOwner(const QFileInfo& file, const QFileInfo& other) {
+    return file.ownerId() == other.ownerId() && file.groupId() == other.groupId();
 }
 
 /// The number of bytes as it is stored. A file without bytes gives an array without bounds, which
@@ -70,7 +99,7 @@ void ProjectWriter::writeNew(const QString& path, Durability durability) {
     const QTemporaryDir beside(placeBeside(path));
     if (!beside.isValid())
         throw Error(PathFileAccess, beside.errorString(), path);
-    const QString made = beside.filePath(QStringLiteral("project.ivd"));
+    const QString made = beside.filePath(MadeFile);
     write(made, durability);
     // Another program may be in the middle of a save into the file that is to go.
     const auto old = QFileInfo::exists(path) ? FileByteStore::open(path) : nullptr;
@@ -93,25 +122,31 @@ bool ProjectWriter::changesElements(Storage& root) const {
 }
 
 /// Gives the file the Sections 5 to 7 of the project in one step. Where no file can be made beside
-/// it, they are written one after the other with all the rest.
+/// it that would be its owner's and take its place, they are written one after the other with all
+/// the rest.
 void ProjectWriter::replaceElementSections(const QString& path) const {
     const QString place = QFileInfo(path).canonicalFilePath();
     const QTemporaryDir beside(placeBeside(place));
-    const QString made = beside.filePath(QStringLiteral("project.ivd"));
+    const QString made = beside.filePath(MadeFile);
     // Another program may have begun a save into the file meanwhile.
     const auto old = FileByteStore::open(place);
-    if (!beside.isValid() || !QFile::copy(place, made))
+    if (!beside.isValid() || !QFile::copy(place, made) ||
+        !haveOneOwner(QFileInfo(place), QFileInfo(made)))
         return;
     try {
-        Storage root = OpenStorageFile(made);
-        writeSection5(root);
-        writeSection6(root);
-        writeSection7(root);
-        root.Sync();
+        writeElementSections(made);
+        takePlaceOf(made, place);
     } catch (const Error&) {
-        return; // the same will be told of the file itself
+        return; // what is wrong with the file itself will be told of it
     }
-    takePlaceOf(made, place);
+}
+
+void ProjectWriter::writeElementSections(const QString& path) const {
+    Storage root = OpenStorageFile(path);
+    writeSection5(root);
+    writeSection6(root);
+    writeSection7(root);
+    root.Sync();
 }
 
 void ProjectWriter::write(Storage& root) {

@@ -45,6 +45,7 @@ public:
 private:
     [[nodiscard]] bool changesElements(Storage& root) const;
     void replaceElementSections(const QString& path) const;
+    void writeElementSections(const QString& path) const;
 
     void writeVersion(Storage& root) const;
     void writeSection1(Storage& root) const;

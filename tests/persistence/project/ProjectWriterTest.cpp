@@ -4,6 +4,9 @@
 #include "persistence/project/ProjectReader.h"
 #include "support/ErrorOf.h"
 
+#include <ctime>
+#include <sys/stat.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 using namespace quillford;
@@ -224,6 +227,63 @@ TEST_F(ProjectWriter_, writes_a_file_beside_which_none_can_be_made) {
     Project opened;
     ASSERT_EQ(read(opened).outcome, ReadReport::Outcome::Read);
     EXPECT_EQ(opened.fields.cboMainElementNum.text(), u"5"_s);
+}
+
+TEST_F(ProjectWriter_, writes_a_file_whose_place_is_not_its_users_to_give) {
+    Project project;
+    write(project);
+    project.fields.cboMainElementNum.setText(u"5"_s);
+    // In a folder for everybody each file stays its owner's, and everybody may write into this one.
+    constexpr mode_t Everybody = 0666;
+    constexpr mode_t EverybodysFolder = 01777;
+    ASSERT_EQ(chmod(qPrintable(file()), Everybody), 0);
+    ASSERT_EQ(chmod(qPrintable(folder.path()), EverybodysFolder), 0);
+    constexpr uid_t Nobody = 65534;
+    const uid_t user = geteuid();
+    ASSERT_TRUE(user != 0 || seteuid(Nobody) == 0);
+    EXPECT_NO_THROW(write(project));
+    ASSERT_TRUE(user != 0 || seteuid(user) == 0);
+    EXPECT_EQ(QFileInfo(file()).ownerId(), user);
+    Project opened;
+    ASSERT_EQ(read(opened).outcome, ReadReport::Outcome::Read);
+    EXPECT_EQ(opened.fields.cboMainElementNum.text(), u"5"_s);
+}
+
+TEST_F(ProjectWriter_, leaves_a_file_to_its_owner_also_where_another_could_take_its_place) {
+    Project project;
+    write(project);
+    project.fields.cboMainElementNum.setText(u"5"_s);
+    constexpr uid_t Nobody = 65534;
+    const uid_t user = geteuid();
+    if (user == 0) {
+        ASSERT_EQ(chown(qPrintable(file()), Nobody, Nobody), 0);
+    }
+    const QFileInfo before(file());
+    const uint owner = before.ownerId();
+    const uint group = before.groupId();
+    write(project);
+    EXPECT_EQ(QFileInfo(file()).ownerId(), owner);
+    EXPECT_EQ(QFileInfo(file()).groupId(), group);
+    Project opened;
+    ASSERT_EQ(read(opened).outcome, ReadReport::Outcome::Read);
+    EXPECT_EQ(opened.fields.cboMainElementNum.text(), u"5"_s);
+}
+
+TEST_F(ProjectWriter_, takes_away_what_programs_that_were_killed_have_left_beside_it) {
+    const auto leave = [this](const QString& name, const QString& content, int daysAgo) {
+        writeFile(inFolder(name + u'/' + content), "half a project");
+        const time_t then = time(nullptr) - daysAgo * 24 * 60 * 60 - 60;
+        const timeval times[2]{{then, 0}, {then, 0}};
+        EXPECT_EQ(utimes(qPrintable(inFolder(name)), times), 0);
+    };
+    leave(u".new-AbCdEf"_s, u"project.ivd"_s, 1);
+    leave(u".new-GhIjKl"_s, u"project.ivd"_s, 0);
+    leave(u".new-things"_s, u"of the user.txt"_s, 2);
+    const Project project;
+    ProjectWriter(project, prompts).writeNew(file(), ProjectWriter::Durability::Flushed);
+    EXPECT_EQ(QDir(folder.path()).entryList({u".new*"_s}, QDir::AllEntries | QDir::Hidden),
+              QStringList({u".new-GhIjKl"_s, u".new-things"_s}));
+    EXPECT_TRUE(QFile::exists(inFolder(u".new-things/of the user.txt"_s)));
 }
 
 TEST_F(ProjectWriter_, follows_a_link_to_the_file_whose_number_of_elements_changes) {

@@ -218,7 +218,9 @@ private:
             if (!own.contains(file.key())) {
                 EXPECT_TRUE(files.value(file.key()) == file.value()) << qPrintable(file.key());
             }
-        EXPECT_EQ(QDir(workDir).entryList({u".new*"_s}, QDir::AllEntries | QDir::Hidden).size(), 0);
+        EXPECT_FALSE(QDirIterator(workDir, {u".new*"_s}, QDir::AllEntries | QDir::Hidden,
+                                  QDirIterator::Subdirectories)
+                         .hasNext());
     }
 
     bool isOnDisk(const QString& text) const {
