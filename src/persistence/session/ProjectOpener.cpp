@@ -179,6 +179,7 @@ void ProjectOpener::refuse(const QString& path) {
     takeName(path);
     project_.state.isRefused = true;
     filing_.title.SetWindowTitle(GetFileName(path));
+    filing_.saveState.showSaveState(QString());
     makeShadow(path);
 }
 

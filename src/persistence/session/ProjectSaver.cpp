@@ -56,6 +56,7 @@ bool ProjectSaver::save() {
     const bool isNew = std::exchange(isNew_, false);
     if (state.isAutoSaving && state.isRefused) {
         writeShadow();
+        tellSaved();
         return true;
     }
     const bool hadNoName = chooseTarget();
@@ -71,9 +72,13 @@ bool ProjectSaver::save() {
     else if (state.realFileName.isEmpty())
         recent_.projectSaved(path, false);
     settleState();
+    tellSaved();
+    return true;
+}
+
+void ProjectSaver::tellSaved() {
     saveState_.showSaveState(QStringLiteral("saved ") +
                              clock_.dateAndTime().toString(QStringLiteral("HH:mm")));
-    return true;
 }
 
 /// Answers whether the user was asked: a working copy that he opened counts as unnamed. A timer

@@ -45,6 +45,7 @@ private:
     void write(bool isNew);
     void rememberFolder();
     void settleState();
+    void tellSaved();
 
     Project& project_;
     WorkFolders& folders_;

@@ -354,6 +354,23 @@ TEST_F(ProjectOpenerTest, the_timer_spares_a_refused_file_until_the_user_saves) 
     EXPECT_EQ(operationIn(higher), u"mine again");
 }
 
+TEST_F(ProjectOpenerTest,
+       the_line_of_the_save_state_tells_how_the_text_beside_a_refused_file_does) {
+    type(u"It turns."_s);
+    waitForAutosave();
+    ASSERT_TRUE(saveState.text.startsWith(u"saved "_s));
+    opener.OpenFile(makeVersion(inProjects(u"v.ivd"_s), u"3.2"_s));
+    EXPECT_EQ(saveState.text, u"") << "that was another project's";
+    type(QString(100000, u'x'));
+    {
+        const FullDisk full(20000);
+        waitForAutosave();
+        EXPECT_EQ(saveState.text, u"not saved: disk full");
+    }
+    waitForAutosave();
+    EXPECT_TRUE(saveState.text.startsWith(u"saved "_s)) << saveState.text.toStdString();
+}
+
 TEST_F(ProjectOpenerTest, nothing_is_put_back_over_a_refused_file) {
     const QString higher = makeVersion(inProjects(u"v.ivd"_s), u"3.2"_s);
     const QByteArray before = contentOf(higher);
