@@ -1,6 +1,7 @@
 #include "persistence/session/ProjectFiler.h"
 
 #include "core/settings/PathParts.h"
+#include "persistence/project/WorkingCopies.h"
 
 #include <QFile>
 
@@ -40,6 +41,10 @@ bool ProjectFiler::putShadowBack() {
         tellNotTakenBack(error.description());
         return false;
     }
+    // The project has got another name, and the file of this one could not go back at once.
+    if (state_.realFileName != state_.projectFileName)
+        tellNotTakenBack(QStringLiteral("the copy that was kept was that of %1")
+                             .arg(GetFileName(state_.realFileName)));
     recent_.restoreFirstEntry();
     deleteShadow();
     return true;

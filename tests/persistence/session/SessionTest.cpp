@@ -162,6 +162,24 @@ TEST_F(SessionTest, the_file_of_the_old_name_goes_back_when_a_project_is_saved_u
     EXPECT_EQ(operationIn(inProjects(u"variant.ivd"_s)), u"It unfolds.");
 }
 
+TEST_F(SessionTest, a_copy_that_the_old_name_still_needs_is_not_taken_for_that_of_the_new_one) {
+    const QString easel = openEasel();
+    type(u"It unfolds."_s);
+    waitForAutosave();
+    ASSERT_TRUE(QFile::remove(easel) && QDir().mkdir(easel));
+    prompts.filesToSave = {inProjects(u"variant.ivd"_s)};
+    commands.mnuFileSaveAs_Click();
+    EXPECT_EQ(boxes(), QStringList({u"Error"_s})) << "the file of the old name cannot go back";
+    type(u"It falls."_s);
+    waitForAutosave();
+    ASSERT_TRUE(QDir().rmdir(easel));
+    answer(Answer::No);
+    EXPECT_TRUE(commands.queryUnload());
+    EXPECT_EQ(operationIn(easel), u"It folds.");
+    EXPECT_EQ(operationIn(inProjects(u"variant.ivd"_s)), u"It falls.");
+    EXPECT_EQ(boxes(), QStringList({u"Error"_s, u"Save Project?"_s, u"Error"_s}));
+}
+
 TEST_F(SessionTest, a_shadow_that_cannot_be_put_back_keeps_the_program_open) {
     const QString easel = openEasel();
     type(u"It unfolds."_s);
