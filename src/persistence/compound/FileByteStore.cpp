@@ -73,9 +73,13 @@ FileByteStore::FileByteStore(QString path, int descriptor, Place place)
 }
 
 std::unique_ptr<FileByteStore> FileByteStore::open(const QString& path) {
-    std::unique_ptr<FileByteStore> store(
-        new FileByteStore(path, openDescriptor(path, 0), Place::Named));
-    store->lockRegularFile();
+    // Nobody loses the race so often; only a file system on which files cannot be told apart does.
+    constexpr int MostTries = 100;
+    std::unique_ptr<FileByteStore> store;
+    for (int tries = 0; tries < MostTries && (!store || !store->standsInPlace()); ++tries) {
+        store.reset(new FileByteStore(path, openDescriptor(path, 0), Place::Named));
+        store->lockRegularFile();
+    }
     return store;
 }
 
@@ -115,6 +119,17 @@ void FileByteStore::lockRegularFile() {
         throw storageError(StorageCode::AccessDenied, path_);
     if (retried([&] { return flock(descriptor_, LOCK_EX | LOCK_NB); }) != 0)
         throw storageError(codeOfOpenFailure(errno, path_), path_);
+}
+
+/// False when another file has taken the place of this one before it was locked.
+bool FileByteStore::standsInPlace() const {
+    struct stat own {};
+
+    struct stat named {};
+
+    return fstat(descriptor_, &own) == 0 &&
+           ::stat(QFile::encodeName(path_).constData(), &named) == 0 &&
+           own.st_ino == named.st_ino && own.st_dev == named.st_dev;
 }
 
 quint64 FileByteStore::size() {

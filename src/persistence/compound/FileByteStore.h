@@ -12,7 +12,8 @@ namespace quillford {
 /// and not to the process, so that a second open is refused within the same process as well.
 class FileByteStore final : public ByteStore {
 public:
-    /// Opens the existing regular file `path`. Raises `FileNotFound`, `PathNotFound`,
+    /// Opens the existing regular file `path`, which keeps its name for as long as it is open where
+    /// all who replace it hold its lock meanwhile. Raises `FileNotFound`, `PathNotFound`,
     /// `AccessDenied` or `ShareViolation`.
     [[nodiscard]] static std::unique_ptr<FileByteStore> open(const QString& path);
 
@@ -42,6 +43,7 @@ private:
     FileByteStore(QString path, int descriptor, Place place);
 
     void lockRegularFile();
+    [[nodiscard]] bool standsInPlace() const;
 
     QString path_;
     int descriptor_;
