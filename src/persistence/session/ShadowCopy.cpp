@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "base/Files.h"
+#include "persistence/compound/FileByteStore.h"
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -51,8 +52,11 @@ void ShadowCopy::putBack(const QString& path, const QString& target) const {
     const QByteArray content = contentOfFile(path);
     if (digestOf(content) != digest_)
         throw Error(BadFileName, QStringLiteral("it is not the copy that was written"), path);
-    if (targetDigest_.isEmpty() || digestOfFile(target) != targetDigest_)
-        replaceFile(target, content);
+    if (!targetDigest_.isEmpty() && digestOfFile(target) == targetDigest_)
+        return;
+    // Another program may be in the middle of a save into the file that is to go.
+    const auto old = QFileInfo::exists(target) ? FileByteStore::open(target) : nullptr;
+    replaceFile(target, content);
 }
 
 void ShadowCopy::deleteCopy(const QString& path) const {

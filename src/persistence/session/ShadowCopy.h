@@ -22,8 +22,8 @@ public:
 
     /// Makes `target` hold what the copy holds, unless it still is what it was when the copy was
     /// remembered: then there is nothing to take back, and it may well be write-protected. Raises
-    /// `Error` when the copy is not this run's own, or cannot be read, or the target cannot be
-    /// written; the target stays as it was then.
+    /// `Error` when the copy is not this run's own, or cannot be read, or the target is in
+    /// use or cannot be written; the target stays as it was then.
     void putBack(const QString& path, const QString& target) const;
 
     /// Deletes the copy. One that holds something else belongs to another program and stays.

@@ -1,5 +1,6 @@
 #include "persistence/session/ShadowCopy.h"
 
+#include "persistence/compound/FileByteStore.h"
 #include "support/ErrorOf.h"
 #include "support/Files.h"
 #include "support/FullDisk.h"
@@ -86,6 +87,19 @@ TEST_F(ShadowCopyTest, a_target_that_cannot_be_written_stays_as_it_was) {
     }
     EXPECT_EQ(contentOf(target), "as it was saved by the timer");
     EXPECT_TRUE(shadow.isOwn(copy));
+}
+
+TEST_F(ShadowCopyTest, a_target_that_another_program_is_writing_stays_its) {
+    shadow.remember(copy, target);
+    autosave();
+    {
+        const auto elsewhere = FileByteStore::open(target);
+        EXPECT_EQ(errorOf([&] { shadow.putBack(copy, target); }).description(),
+                  u"The file is in use.");
+        EXPECT_EQ(contentOf(target), "as it was saved by the timer");
+    }
+    shadow.putBack(copy, target);
+    EXPECT_EQ(contentOf(target), "as it was opened");
 }
 
 TEST_F(ShadowCopyTest, its_own_copy_is_deleted_and_that_of_another_program_is_not) {
