@@ -8,6 +8,9 @@ namespace quillford {
 QString reasonNotSaved(const QString& path, const Error& failure) {
     if (failure.number() == FileAlreadyExistsNumber)
         return QStringLiteral("file damaged");
+    // A picture of the project cannot be read, whatever becomes of the project's own file.
+    if (failure.number() == SubscriptNumber)
+        return failure.description();
     switch (static_cast<StorageCode>(failure.number())) {
     case StorageCode::MediumFull:
         return QStringLiteral("disk full");
