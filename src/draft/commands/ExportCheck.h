@@ -18,8 +18,8 @@ public:
 
     struct Outcome {
         Answer answer = Answer::Cancel;
-        FieldId field{}; ///< with `GoToCell`: a field of the element tables, and its panel
-        int index = 0;
+        FieldId field{}; ///< with `GoToCell`: a field of the element tables, and its panel, which
+        int index = 0;   ///< may have gone since it was looked at
     };
 
     virtual ~ExportCheck() = default;

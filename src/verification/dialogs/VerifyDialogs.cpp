@@ -38,8 +38,9 @@ ExportCheck::Outcome VerifyDialogs::showErrors() {
         return {Answer::Continue};
     if (answer != frmVerifyResult::Answer::GoToCell)
         return {Answer::Return};
+    // A run that was stopped leaves its entries; the panel may have gone since, or its project.
     const ElementCell cell = result.cell();
-    return {Answer::GoToCell, cell.field(parts_.fields).row().id, cell.panel};
+    return {Answer::GoToCell, cell.fieldId(), cell.panel};
 }
 
 } // namespace quillford

@@ -8,8 +8,12 @@ QString ElementCell::numeral() const {
     return referenceNumeral(panel, part);
 }
 
+FieldId ElementCell::fieldId() const noexcept {
+    return isSubElement() ? subElementField(part) : FieldId::txtElementMain;
+}
+
 const Field& ElementCell::field(const ProjectFields& fields) const {
-    return isSubElement() ? fields.at(subElementField(part), panel) : fields.txtElementMain(panel);
+    return fields.at(fieldId(), panel);
 }
 
 int getElementsEnterNum(const ProjectFields& fields) {

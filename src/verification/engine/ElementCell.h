@@ -16,6 +16,9 @@ struct ElementCell {
     /// The Reference Numeral, without the colon that stands behind it on screen.
     [[nodiscard]] QString numeral() const;
 
+    /// What the cell's field is called, whether or not the project has that panel.
+    [[nodiscard]] FieldId fieldId() const noexcept;
+
     /// The cell's field; the panel is one of the project's.
     [[nodiscard]] const Field& field(const ProjectFields& fields) const;
 

@@ -108,3 +108,16 @@ TEST_F(VerifyDialogsTest, an_entry_of_the_report_names_the_field_to_go_to) {
     EXPECT_EQ(outcome.field, FieldId::txtElementSub1);
     EXPECT_EQ(outcome.index, 1);
 }
+
+TEST_F(VerifyDialogsTest, an_entry_that_a_stopped_run_has_left_may_name_a_panel_that_is_gone) {
+    state.lists.missingMainElements.add(u"left over"_s, {9, 0});
+    user.meets<frmVerify>(verify).meets<frmVerifyResult>([](frmVerifyResult& up) {
+        QWidget& report = part(up, u"picErrorReport"_s);
+        report.setFocus();
+        QTest::keyClick(&report, Qt::Key_Return);
+    });
+    const ExportCheck::Outcome outcome = dialogs.showVerify();
+    EXPECT_EQ(outcome.answer, Answer::GoToCell);
+    EXPECT_EQ(outcome.field, FieldId::txtElementMain);
+    EXPECT_EQ(outcome.index, 9);
+}
