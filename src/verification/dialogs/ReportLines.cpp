@@ -23,6 +23,13 @@ public:
         report_.height += measure_.lineHeight();
     }
 
+    /// A name that was read from a file may have several lines; each stands for itself.
+    void names(const MissingList& list) {
+        for (const MissingEntry& missing : list.entries())
+            for (const QString& text : missing.text.split(QStringLiteral("\r\n")))
+                entry(text, missing.cell);
+    }
+
     /// A blank entry draws nothing.
     void entry(const QString& text, ElementCell cell) {
         const qsizetype number = report_.cells.size();
@@ -55,11 +62,9 @@ Report layOutReport(const MissingLists& lists, int width, const TextMeasure& mea
     Report report;
     Setter set(report, width, measure);
     set.head(QStringLiteral("1.   Main Elements"), lists.missingMainElements.isEmpty());
-    for (const MissingEntry& missing : lists.missingMainElements.entries())
-        set.entry(missing.text, missing.cell);
+    set.names(lists.missingMainElements);
     set.head(QStringLiteral("2.   Sub-Elements"), lists.missingSubElements.isEmpty());
-    for (const MissingEntry& missing : lists.missingSubElements.entries())
-        set.entry(missing.text, missing.cell);
+    set.names(lists.missingSubElements);
     set.head(QStringLiteral("3.   Reference Numerals"), lists.missingNumerals.isEmpty());
     if (!lists.missingNumerals.isEmpty())
         set.entry(QStringLiteral("Reference Numerals %1 appear to be missing.")

@@ -127,6 +127,14 @@ TEST_F(ReportLinesTest, a_blank_entry_draws_nothing) {
     EXPECT_EQ(drawn.cells, (QList<ElementCell>{{1, 0}})) << "nor can it be activated";
 }
 
+TEST_F(ReportLinesTest, a_name_with_a_line_end_is_two_entries_of_one_cell) {
+    lists.missingMainElements.add(u"leg\r\nfoot"_s, {2, 0});
+    EXPECT_EQ(entries(), (QStringList{u"leg"_s, u"foot"_s}));
+    const Report drawn = report();
+    EXPECT_EQ(drawn.height, 5 * LineHeight);
+    EXPECT_EQ(drawn.cells, (QList<ElementCell>{{2, 0}, {2, 0}}));
+}
+
 TEST_F(ReportLinesTest, each_line_knows_its_entry_and_each_entry_its_cell) {
     lists.missingMainElements.add(u"a leg of wood with a foot"_s, {2, 0});
     lists.missingSubElements.add(u"pin"_s, {1, 3});
