@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillford {
 
@@ -43,14 +44,17 @@ void ReportSurface::paintEvent(QPaintEvent*) {
     }
 }
 
+void ReportSurface::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton ? entryAt(event->pos()) : std::nullopt;
+    event->accept();
+}
+
 void ReportSurface::mouseReleaseEvent(QMouseEvent* event) {
-    for (qsizetype entry = 0; entry < report_.cells.size(); ++entry) {
-        if (!placeOf(entry).contains(event->pos()))
-            continue;
-        mark(entry);
-        Q_EMIT entryActivated(entry);
+    const auto pressed = std::exchange(pressed_, std::nullopt);
+    if (!pressed || event->button() != Qt::LeftButton || pressed != entryAt(event->pos()))
         return;
-    }
+    mark(*pressed);
+    Q_EMIT entryActivated(*pressed);
 }
 
 void ReportSurface::keyPressEvent(QKeyEvent* event) {
@@ -80,6 +84,13 @@ QRect ReportSurface::placeOf(qsizetype entry) const {
         if (line.entry == entry)
             place |= QRect(0, line.y, width(), lineHeight_);
     return place;
+}
+
+std::optional<qsizetype> ReportSurface::entryAt(QPoint place) const {
+    for (qsizetype entry = 0; entry < report_.cells.size(); ++entry)
+        if (placeOf(entry).contains(place))
+            return entry;
+    return std::nullopt;
 }
 
 void ReportSurface::mark(qsizetype entry) {

@@ -25,6 +25,7 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -32,12 +33,14 @@ protected:
 
 private:
     [[nodiscard]] QRect placeOf(qsizetype entry) const;
+    [[nodiscard]] std::optional<qsizetype> entryAt(QPoint place) const;
     void mark(qsizetype entry);
 
     Report report_;
     QFont font_;
     int lineHeight_ = 0;
     qsizetype marked_ = 0;
+    std::optional<qsizetype> pressed_; ///< the entry on which the mouse button went down
 };
 
 } // namespace quillford

@@ -55,6 +55,19 @@ TEST_F(ReportSurfaceTest, a_click_on_an_entry_activates_it_and_one_on_a_head_doe
     EXPECT_EQ(activated.first().first().toLongLong(), 1);
 }
 
+TEST_F(ReportSurfaceTest, only_a_whole_click_of_the_left_button_activates) {
+    drawTwo();
+    const QPoint head(60, 6);
+    const QPoint hinge(60, 13 + 6);
+    const QPoint leg(60, 2 * 13 + 6);
+    QTest::mouseClick(&surface, Qt::RightButton, {}, hinge);
+    QTest::mousePress(&surface, Qt::LeftButton, {}, head);
+    QTest::mouseRelease(&surface, Qt::LeftButton, {}, hinge);
+    QTest::mousePress(&surface, Qt::LeftButton, {}, hinge);
+    QTest::mouseRelease(&surface, Qt::LeftButton, {}, leg);
+    EXPECT_EQ(activated.count(), 0);
+}
+
 TEST_F(ReportSurfaceTest, enter_activates_the_entry_that_the_arrows_have_marked) {
     drawTwo();
     QTest::keyClick(&surface, Qt::Key_Return);
