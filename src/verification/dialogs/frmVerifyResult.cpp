@@ -123,10 +123,15 @@ void frmVerifyResult::bringIntoView(int top, int bottom) {
         bar.setValue(bottom - ReportViewHeight);
 }
 
+/// A touch pad turns in fractions of a notch; they are gathered until a whole one is there.
 void frmVerifyResult::wheelEvent(QWheelEvent* event) {
+    constexpr int NotchAngle = 120;
+    turned_ += event->angleDelta().y();
+    const int notches = turned_ / NotchAngle;
+    turned_ -= notches * NotchAngle;
     QScrollBar& bar = *ui_->VScroll1;
     if (bar.isVisible())
-        bar.setValue(bar.value() + (event->angleDelta().y() < 0 ? 1 : -1) * bar.pageStep());
+        bar.setValue(bar.value() - notches * bar.pageStep());
     event->accept();
 }
 

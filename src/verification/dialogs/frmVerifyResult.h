@@ -55,6 +55,7 @@ private:
     Report report_;
     ElementCell cell_;
     Answer answer_ = Answer::Cancel;
+    int turned_ = 0; ///< of the wheel, since its last whole notch
 };
 
 } // namespace quillford

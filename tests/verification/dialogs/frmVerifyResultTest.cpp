@@ -192,6 +192,22 @@ TEST_F(frmVerifyResultTest, the_wheel_moves_the_bar_wherever_the_mouse_is_and_st
     EXPECT_EQ(showErrors(), Answer::Cancel);
 }
 
+TEST_F(frmVerifyResultTest, a_touch_pad_turns_in_fractions_that_are_gathered_to_notches) {
+    missLines(100);
+    user.meets<frmVerifyResult>([](frmVerifyResult& form) {
+        bar(form).setValue(300);
+        turnWheel(report(form), QPoint(NotchDown, 0));
+        EXPECT_EQ(bar(form).value(), 300) << "what goes sideways moves nothing";
+        for (int i = 0; i < 3; ++i)
+            turnWheel(report(form), NotchDown / 4);
+        EXPECT_EQ(bar(form).value(), 300);
+        turnWheel(report(form), NotchDown / 4);
+        EXPECT_EQ(bar(form).value(), 550);
+        cancel(form);
+    });
+    EXPECT_EQ(showErrors(), Answer::Cancel);
+}
+
 TEST_F(frmVerifyResultTest, a_click_on_an_entry_leads_to_its_cell) {
     lists.missingMainElements.add(u"hinge"_s, {1, 0});
     lists.missingSubElements.add(u"pin"_s, {2, 4});
