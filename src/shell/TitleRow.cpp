@@ -42,4 +42,8 @@ void TitleRow::showSaveState(const QString& text) {
     theme::setPlainToolTip(*saveState_, text);
 }
 
+QString TitleRow::saveState() const {
+    return saveState_->text();
+}
+
 } // namespace quillford

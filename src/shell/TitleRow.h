@@ -26,6 +26,8 @@ public:
     /// Has room for two lines; the label's tip has all of a longer one.
     void showSaveState(const QString& text) override;
 
+    [[nodiscard]] QString saveState() const override;
+
 private:
     QWidget& form_;
     QLabel* caption_;

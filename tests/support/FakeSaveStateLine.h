@@ -9,6 +9,8 @@ class FakeSaveStateLine final : public SaveStateLine {
 public:
     void showSaveState(const QString& newText) override { text = newText; }
 
+    [[nodiscard]] QString saveState() const override { return text; }
+
     QString text;
 };
 

@@ -143,17 +143,19 @@ void DraftCommands::CreateToWord() {
     finish(path, composer.failure());
 }
 
-/// No box tells of a file that could not be made. What the line said of an earlier one is over when
-/// a file is made.
+/// No box tells of a file that could not be made. When a file is made, the line says again what it
+/// said before; what others have told there since stays.
 void DraftCommands::finish(const QString& path, const std::optional<Error>& failure) {
-    if (failure)
-        parts_.saveState.showSaveState(QStringLiteral("not exported: ") +
-                                       reasonNotWritten(path, *failure));
-    else if (hasFailed_)
-        parts_.saveState.showSaveState(QString());
-    hasFailed_ = failure.has_value();
-    if (!failure)
-        ShellDoc(path, parts_.opener);
+    const bool isTold = !told_.isEmpty() && parts_.saveState.saveState() == told_;
+    if (!failure) {
+        if (isTold)
+            parts_.saveState.showSaveState(toldBefore_);
+        return ShellDoc(path, parts_.opener);
+    }
+    if (!isTold)
+        toldBefore_ = parts_.saveState.saveState();
+    told_ = QStringLiteral("not exported: ") + reasonNotWritten(path, *failure);
+    parts_.saveState.showSaveState(told_);
 }
 
 } // namespace quillford

@@ -64,7 +64,8 @@ private:
     void finish(const QString& path, const std::optional<Error>& failure);
 
     Parts parts_;
-    bool hasFailed_ = false;
+    QString told_;       ///< by the line, of the last export that failed
+    QString toldBefore_; ///< by the line, when an export failed first
 };
 
 } // namespace quillford

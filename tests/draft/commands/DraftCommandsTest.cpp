@@ -150,6 +150,7 @@ TEST_F(DraftCommandsTest, the_check_leads_into_a_cell_of_the_tables) {
     check.outcome = {Answer::GoToCell, FieldId::txtElementSub1, 1};
     commands.imgCreateToFile(2);
     EXPECT_EQ(state.currentTab, 5);
+    EXPECT_EQ(exportFormat, ExportFormat::Html) << "what was chosen stays";
     EXPECT_EQ(Calls(log.calls.end() - 3, log.calls.end()),
               (Calls{"TextHighLight 5", "into view txtElementSub1 1", "focus txtElementSub1"}));
     EXPECT_TRUE(prompts.fileQuestions.empty());
@@ -212,6 +213,25 @@ TEST_F(DraftCommandsTest, a_file_that_cannot_be_made_is_told_in_the_line_alone_a
     EXPECT_TRUE(opener.opened.isEmpty());
     EXPECT_TRUE(prompts.boxes.empty());
     EXPECT_EQ(calls(), (Calls{"hourglass", "default pointer", "hourglass", "default pointer"}));
+}
+
+TEST_F(DraftCommandsTest, a_file_that_is_made_takes_back_what_the_line_told_of_an_export_alone) {
+    const QString missing = place(u"missing/draft.htm"_s);
+    const QString page = place(u"draft.htm"_s);
+    prompts.filesToSave = {missing, missing, page, missing, page, page};
+    saveState.text = u"saved 14:02"_s;
+    commands.CreateToHtml();
+    commands.CreateToHtml();
+    EXPECT_EQ(saveState.text, u"not exported: folder does not exist"_s);
+    commands.CreateToHtml();
+    EXPECT_EQ(saveState.text, u"saved 14:02"_s);
+    commands.CreateToHtml();
+    saveState.text = u"not saved: disk full"_s;
+    commands.CreateToHtml();
+    EXPECT_EQ(saveState.text, u"not saved: disk full"_s);
+    saveState.text = u"saved 14:05"_s;
+    commands.CreateToHtml();
+    EXPECT_EQ(saveState.text, u"saved 14:05"_s);
 }
 
 TEST_F(DraftCommandsTest, a_document_without_a_program_has_the_user_asked) {
