@@ -177,21 +177,28 @@ void MainWindow::joinMenus() {
 void MainWindow::joinDraft() {
     DraftCommands& commands = draft_.commands();
     PrintCommands& printing = draft_.printing();
-    // A command that was kept while another project came may find no draft any more.
+    // A command that was kept while another project came may find no draft any more, and the
+    // buttons below the preview none on screen.
     const auto ofDraft = [this](const auto& command) {
         return [this, command](auto... index) {
             if (rules_.isComplete(SectionRules::FinalDraftTab))
                 command(index...);
         };
     };
+    const auto ofPreview = [this, ofDraft](const auto& command) {
+        return ofDraft([this, command](auto... index) {
+            if (project_.state.currentTab == SectionRules::FinalDraftTab)
+                command(index...);
+        });
+    };
     starts(form_.bar(), &StepBar::imgCreateToFile_Click, u"imgCreateToFile",
-           ofDraft([&commands](int index) { commands.imgCreateToFile(index); }));
+           ofPreview([&commands](int index) { commands.imgCreateToFile(index); }));
     starts(*fileEntries_, &FileMenuEntries::mnuFileExportToHTML_Click, u"mnuFileExportToHTML",
            ofDraft([&commands] { commands.mnuFileExportToHTML(); }));
     starts(*fileEntries_, &FileMenuEntries::mnuFileExportToWord_Click, u"mnuFileExportToWord",
            ofDraft([&commands] { commands.mnuFileExportToWord(); }));
     starts(form_.bar(), &StepBar::imgPrintFile_Click, u"mnuFilePrint",
-           ofDraft([&printing] { printing.imgPrintFile(); }));
+           ofPreview([&printing] { printing.imgPrintFile(); }));
     starts(*fileEntries_, &FileMenuEntries::mnuFilePrint_Click, u"mnuFilePrint",
            ofDraft([&printing] { printing.mnuFilePrint(); }));
     starts(*form_.findChild<ClickLabel*>(QStringLiteral("imgPrint")), &ClickLabel::clicked,

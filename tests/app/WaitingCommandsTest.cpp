@@ -143,3 +143,15 @@ TEST_F(WaitingCommandsTest,
     });
     EXPECT_EQ(currentTab(), 0);
 }
+
+TEST_F(WaitingCommandsTest, a_preview_that_another_project_has_put_away_has_no_buttons_any_more) {
+    open();
+    const QString other = sampleProject(u"other.ivd"_s);
+    exportPage([this, other] {
+        QTest::keyClick(&form(), Qt::Key_O, Qt::ControlModifier);
+        click(u"imgPrintFile(1)"_s);
+        click(u"imgCreateToFile(1)"_s);
+        whenAskedForFile(other);
+    });
+    EXPECT_EQ(currentTab(), 0);
+}
