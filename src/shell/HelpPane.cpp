@@ -33,6 +33,7 @@ HelpPane::HelpPane(QWidget& form, const QString& appFolder)
 
 void HelpPane::HelpOn(int tab) {
     view_->setSource(QStringLiteral("%1Section %2/index.htm").arg(folder_).arg(tab + 1));
+    view_->clearHistory(); // the keys of a browser would go back into the help of another tab
 }
 
 void HelpPane::pageLoaded(const QString& address) {

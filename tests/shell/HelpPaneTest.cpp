@@ -95,6 +95,17 @@ TEST_F(HelpPaneTest, on_the_start_page_back_does_nothing) {
     EXPECT_TRUE(text().startsWith(u"Start 1"_s));
 }
 
+TEST_F(HelpPaneTest, the_keys_of_a_browser_lead_to_no_other_tab_s_help) {
+    help.HelpOn(1);
+    help.HelpOn(0);
+    QTest::keyClick(&help.view(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_TRUE(text().startsWith(u"Start 1"_s)) << qPrintable(text());
+    follow();
+    QTest::keyClick(&help.view(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_TRUE(text().startsWith(u"Start 1"_s));
+    EXPECT_FALSE(isBackActive());
+}
+
 TEST_F(HelpPaneTest, a_switch_from_a_second_page_goes_straight_to_the_new_start_page) {
     help.HelpOn(0);
     follow();
