@@ -49,8 +49,9 @@ void giveButtonRole(QWidget& widget) {
 }
 
 bool isClickKey(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return ||
-           event.key() == Qt::Key_Enter;
+    const bool clicks = event.key() == Qt::Key_Space || event.key() == Qt::Key_Return ||
+                        event.key() == Qt::Key_Enter;
+    return clicks && !event.isAutoRepeat();
 }
 
 } // namespace quillford

@@ -9,7 +9,8 @@ namespace quillford {
 /// pressing it emits the widget's signal `clicked()`.
 void giveButtonRole(QWidget& widget);
 
-/// True for the keys that press a button which has the focus: space, Enter and Return.
+/// True for the keys that press a button which has the focus: space, Enter and Return. One that is
+/// held down presses once: its repetitions would press whatever takes the button's place.
 [[nodiscard]] bool isClickKey(const QKeyEvent& event);
 
 } // namespace quillford

@@ -71,6 +71,14 @@ TEST_F(myImageButtonTest, space_and_enter_are_clicks) {
     EXPECT_EQ(clicks.count(), 3);
 }
 
+TEST_F(myImageButtonTest, a_key_that_is_held_down_is_one_click) {
+    button.setFocus();
+    QTest::keyClick(&button, Qt::Key_Return);
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+    QCoreApplication::sendEvent(&button, &repeated);
+    EXPECT_EQ(clicks.count(), 1);
+}
+
 TEST_F(myImageButtonTest, a_disabled_button_keeps_its_face_and_takes_no_click) {
     button.setEnabled(false);
     QTest::mouseClick(&face(), Qt::LeftButton);
