@@ -22,9 +22,8 @@
 /// the same event loop that moves the same bytes: it reads the project file's tables, reads each
 /// picture, writes texts and pictures into one file in the same folder, and reads the settings as
 /// often, without their lock. Neither side syncs a save that nobody asked for. The timer's ticks
-/// are sent without its pauses. The first save after the opening, which writes what the settings
-/// tell of the project, is counted apart. The opening, which makes the backup copy, is not
-/// measured.
+/// are sent without its pauses. The first save after the opening, which also makes the backup and
+/// writes what the settings tell of the project, is counted apart.
 namespace quillford {
 
 namespace {
@@ -191,7 +190,8 @@ int main(int argc, char** argv) {
     const QTemporaryDir home;
     // The user's own settings and files stay out of it.
     qputenv("HOME", home.path().toUtf8());
-    for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "Temp"})
+    for (const char* variable :
+         {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "Temp"})
         qunsetenv(variable);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QUILLFORD_TIME_SCALE", "0");

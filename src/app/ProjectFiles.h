@@ -41,6 +41,7 @@ private:
     DraftNames names_;
     RecentProjects recent_;
     ShadowCopy shadow_;
+    Backups backups_;
     WindowTitle title_;
     WorkingCopies copies_;
     ProjectSaver saver_;

@@ -26,6 +26,10 @@ public:
     /// The folder in which programs keep data for the user that are no documents, shared by all.
     [[nodiscard]] virtual QString localDataFolder() = 0;
 
+    /// The folder in which this program keeps what outlives a run and is neither settings nor
+    /// documents, the program's own.
+    [[nodiscard]] virtual QString stateFolder() = 0;
+
     /// The folder for temporary files: the value of the environment variable "Temp" where it is
     /// set, otherwise a folder that no other user can write into, kept from run to run. It is made
     /// if it is missing. Raises `Error` naming the folder when it can neither be found nor made.

@@ -19,12 +19,15 @@ public:
 
     [[nodiscard]] QString localDataFolder() override { return localData; }
 
+    [[nodiscard]] QString stateFolder() override { return state; }
+
     [[nodiscard]] QString temporaryFolder() override { return temporary; }
 
     QString program = QStringLiteral("/nowhere/Quillford/quillford");
     QString documents = QStringLiteral("/nowhere/Documents");
     QString configuration = QStringLiteral("/nowhere/config");
     QString localData = QStringLiteral("/nowhere/data");
+    QString state = QStringLiteral("/nowhere/state");
     QString temporary = QStringLiteral("/nowhere/temp");
 };
 

@@ -78,8 +78,8 @@ void NewProject::clearFigures() {
 /// All names go together: one that stayed would tie the new project to the files of the old one.
 void NewProject::forgetFile() {
     ProjectState& state = project_.state;
-    for (QString* name :
-         {&state.projectFileName, &state.draftFileName, &state.realFileName, &state.shadowFileName})
+    for (QString* name : {&state.projectFileName, &state.draftFileName, &state.realFileName,
+                          &state.shadowFileName, &state.timerSavedFileName})
         name->clear();
     state.isDraftProject = false;
     state.isRecovered = false;

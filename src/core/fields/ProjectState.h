@@ -20,6 +20,9 @@ struct ProjectState {
     /// The path of the copy that keeps an opened project as it was last saved; empty if there is
     /// none.
     QString shadowFileName;
+    /// The path of the file that the timer has saved the project into since the user opened or
+    /// saved it; empty before. The next file that the timer writes over is backed up first.
+    QString timerSavedFileName;
     /// Where the project comes from: "new" or "open".
     QString fileOrigin;
 

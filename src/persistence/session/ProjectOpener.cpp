@@ -153,7 +153,8 @@ void ProjectOpener::judgeSections() {
 void ProjectOpener::takeName(const QString& path) {
     ProjectState& state = project_.state;
     state.projectFileName = path;
-    for (QString* name : {&state.draftFileName, &state.realFileName, &state.shadowFileName})
+    for (QString* name : {&state.draftFileName, &state.realFileName, &state.shadowFileName,
+                          &state.timerSavedFileName})
         name->clear();
     state.isDraftProject = false;
     state.isRecovered = false;

@@ -28,13 +28,15 @@ void makeFolderOf(const QString& path) {
 } // namespace
 
 ProjectSaver::ProjectSaver(Project& project, WorkFolders& folders, SaveDialog& dialog,
-                           RecentProjects& recent, ShadowCopy& shadow, WindowTitle& title,
-                           SaveStateLine& saveState, UserPrompts& prompts, const Clock& clock)
+                           RecentProjects& recent, ShadowCopy& shadow, Backups& backups,
+                           WindowTitle& title, SaveStateLine& saveState, UserPrompts& prompts,
+                           const Clock& clock)
     : project_(project),
       folders_(folders),
       dialog_(dialog),
       recent_(recent),
       shadow_(shadow),
+      backups_(backups),
       title_(title),
       saveState_(saveState),
       prompts_(prompts),
@@ -64,6 +66,8 @@ bool ProjectSaver::save() {
     if (path.isEmpty())
         return false;
     makeFolderOf(path);
+    if (state.isAutoSaving)
+        backUp(path);
     write(isNew);
     title_.SetWindowTitle(GetFileName(path));
     rememberFolder();
@@ -77,8 +81,27 @@ bool ProjectSaver::save() {
 }
 
 void ProjectSaver::tellSaved() {
-    saveState_.showSaveState(QStringLiteral("saved ") +
-                             clock_.dateAndTime().toString(QStringLiteral("HH:mm")));
+    QString told =
+        QStringLiteral("saved ") + clock_.dateAndTime().toString(QStringLiteral("HH:mm"));
+    if (lacksBackup_)
+        told += QStringLiteral(", no backup");
+    saveState_.showSaveState(told);
+}
+
+/// What the user saved himself is kept before it is written over; what the timer saved is not. A
+/// backup that cannot be made keeps nobody from saving.
+void ProjectSaver::backUp(const QString& path) {
+    ProjectState& state = project_.state;
+    if (state.timerSavedFileName == path)
+        return;
+    try {
+        backups_.keep(path);
+        lacksBackup_ = false;
+    } catch (const Error&) {
+        lacksBackup_ = true;
+    }
+    if (state.isAutoSaving)
+        state.timerSavedFileName = path;
 }
 
 /// Answers whether the user was asked: a working copy that he opened counts as unnamed. A timer
@@ -122,6 +145,8 @@ void ProjectSaver::settleState() {
         state.draftFileName.clear();
     if (state.isAutoSaving)
         return;
+    state.timerSavedFileName.clear();
+    lacksBackup_ = false;
     ResetSaveFlag(project_.fields, state);
     state.isDraftProject = false;
     state.isRecovered = false;
@@ -134,6 +159,7 @@ void ProjectSaver::writeShadow() {
     const ProjectState& state = project_.state;
     shadow_.forget();
     makeFolderOf(state.shadowFileName);
+    backUp(state.shadowFileName);
     ProjectWriter(project_).writeNew(state.shadowFileName, ProjectWriter::Durability::Flushed);
     shadow_.remember(state.shadowFileName, state.realFileName);
 }

@@ -78,6 +78,11 @@ QString LinuxFolders::localDataFolder() {
     return baseFolder("XDG_DATA_HOME", QStringLiteral(".local/share"));
 }
 
+QString LinuxFolders::stateFolder() {
+    return baseFolder("XDG_STATE_HOME", QStringLiteral(".local/state")) +
+           QStringLiteral("/Quillford");
+}
+
 QString LinuxFolders::temporaryFolder() {
     const QString named = qEnvironmentVariable("Temp");
     if (!named.isEmpty())

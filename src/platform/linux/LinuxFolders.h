@@ -20,6 +20,7 @@ public:
 
     /// XDG_DATA_HOME, or ".local/share" in the home folder.
     [[nodiscard]] QString localDataFolder() override;
+    [[nodiscard]] QString stateFolder() override;
 
     /// The variable "Temp", or "Quillford" under XDG_CACHE_HOME, or under ".cache" in the home
     /// folder.

@@ -34,6 +34,7 @@ protected:
         folders.documents = home.path();
         folders.temporary = home.filePath(QStringLiteral("temp"));
         folders.localData = home.filePath(QStringLiteral("data"));
+        folders.state = home.filePath(QStringLiteral("state"));
         EXPECT_TRUE(QDir().mkpath(folders.temporary));
         workDir = workFolders.getWorkDir();
         clock.factor = 0;
@@ -130,8 +131,9 @@ protected:
     DraftNames names{project.fields, workFolders};
     ShadowCopy shadow;
     FakeClock clock;
-    ProjectSaver saver{project, workFolders, saveDialog, recent, shadow,
-                       title,   saveState,   prompts,    clock};
+    Backups backups{folders, clock};
+    ProjectSaver saver{project, workFolders, saveDialog, recent,  shadow,
+                       backups, title,       saveState,  prompts, clock};
     FakePictureReader pictures;
     WorkingCopies copies{project.fields, folders, pictures};
     ProjectOpener opener{

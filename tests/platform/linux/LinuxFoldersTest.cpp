@@ -29,6 +29,7 @@ protected:
     ScopedEnvironment config{"XDG_CONFIG_HOME", in(u"config"_s)};
     ScopedEnvironment data{"XDG_DATA_HOME", in(u"data"_s)};
     ScopedEnvironment cache{"XDG_CACHE_HOME", in(u"cache"_s)};
+    ScopedEnvironment state{"XDG_STATE_HOME", in(u"state"_s)};
     ScopedEnvironment documents{"XDG_DOCUMENTS_DIR", std::nullopt};
     ScopedEnvironment temp{"Temp", std::nullopt};
     LinuxFolders folders;
@@ -79,8 +80,10 @@ TEST_F(LinuxFoldersTest, variables_that_are_missing_or_no_full_paths_have_their_
         const ScopedEnvironment newConfig("XDG_CONFIG_HOME", value);
         const ScopedEnvironment newData("XDG_DATA_HOME", value);
         const ScopedEnvironment newCache("XDG_CACHE_HOME", value);
+        const ScopedEnvironment newState("XDG_STATE_HOME", value);
         EXPECT_EQ(folders.configurationFolder(), home.filePath(u".config/Quillford"_s));
         EXPECT_EQ(folders.localDataFolder(), home.filePath(u".local/share"_s));
+        EXPECT_EQ(folders.stateFolder(), home.filePath(u".local/state/Quillford"_s));
         EXPECT_EQ(folders.temporaryFolder(), home.filePath(u".cache/Quillford"_s));
     }
 }
