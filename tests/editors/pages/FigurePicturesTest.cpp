@@ -4,6 +4,7 @@
 #include "support/PeakMemory.h"
 
 #include <QClipboard>
+#include <QMimeData>
 #include <QTest>
 
 using namespace quillford;

@@ -72,6 +72,7 @@ TEST_F(LinuxFoldersTest, a_full_path_in_the_environment_names_the_documents) {
 TEST_F(LinuxFoldersTest, settings_and_data_follow_their_variables) {
     EXPECT_EQ(folders.configurationFolder(), home.filePath(u"config/Quillford"_s));
     EXPECT_EQ(folders.localDataFolder(), home.filePath(u"data"_s));
+    EXPECT_EQ(folders.stateFolder(), home.filePath(u"state/Quillford"_s));
 }
 
 TEST_F(LinuxFoldersTest, variables_that_are_missing_or_no_full_paths_have_their_usual_values) {
