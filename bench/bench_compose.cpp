@@ -2,6 +2,7 @@
 #include "BenchProjects.h"
 #include "CtemplatePage.h"
 #include "PairedTimes.h"
+#include "RunBench.h"
 #include "WriteFile.h"
 #include "base/Error.h"
 #include "base/Files.h"
@@ -95,12 +96,5 @@ void benchAll() {
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    try {
-        quillford::benchAll();
-    } catch (const quillford::Error& error) {
-        std::fprintf(stderr, "bench_compose: %s: %s\n", qPrintable(error.source()),
-                     qPrintable(error.description()));
-        return 2;
-    }
-    return 0;
+    return quillford::runBench("bench_compose", quillford::benchAll);
 }

@@ -2,6 +2,7 @@
 #include "BenchProjects.h"
 #include "EditorPages.h"
 #include "PairedTimes.h"
+#include "RunBench.h"
 #include "app/Program.h"
 #include "base/Error.h"
 #include "controls/FormCombo.h"
@@ -269,22 +270,11 @@ void benchProgram() {
 } // namespace quillford
 
 int main(int argc, char** argv) {
-    const QTemporaryDir home;
-    // The user's own settings and files stay out of it.
-    qputenv("HOME", home.path().toUtf8());
-    for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "Temp"})
-        qunsetenv(variable);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QUILLFORD_TIME_SCALE", "0");
+    const quillford::BenchHome home;
     QApplication application(argc, argv);
     quillford::theme::apply(application);
-    try {
+    return quillford::runBench("bench_editors", [&] {
         quillford::benchColumns();
         quillford::benchProgram();
-    } catch (const quillford::Error& error) {
-        std::fprintf(stderr, "bench_editors: %s: %s\n", qPrintable(error.source()),
-                     qPrintable(error.description()));
-        return 2;
-    }
-    return 0;
+    });
 }

@@ -1,6 +1,7 @@
 #include "BenchDraft.h"
 #include "BenchProjects.h"
 #include "PairedTimes.h"
+#include "RunBench.h"
 #include "base/Error.h"
 #include "controls/HtmlView.h"
 #include "draft/commands/PageSetup.h"
@@ -140,12 +141,5 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     const QApplication application(argc, argv);
-    try {
-        quillford::benchAll();
-    } catch (const quillford::Error& error) {
-        std::fprintf(stderr, "bench_preview: %s: %s\n", qPrintable(error.source()),
-                     qPrintable(error.description()));
-        return 2;
-    }
-    return 0;
+    return quillford::runBench("bench_preview", quillford::benchAll);
 }

@@ -1,4 +1,5 @@
 #include "PairedTimes.h"
+#include "RunBench.h"
 #include "base/Error.h"
 #include "base/Files.h"
 #include "persistence/project/ProjectFileReader.h"
@@ -148,12 +149,5 @@ private:
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    try {
-        quillford::Bench().run();
-    } catch (const quillford::Error& error) {
-        std::fprintf(stderr, "bench_project: %s: %s\n", qPrintable(error.source()),
-                     qPrintable(error.description()));
-        return 2;
-    }
-    return 0;
+    return quillford::runBench("bench_project", [&] { quillford::Bench().run(); });
 }

@@ -1,5 +1,6 @@
 #include "BenchProjects.h"
 #include "LoopGap.h"
+#include "RunBench.h"
 #include "app/Program.h"
 #include "base/Error.h"
 #include "base/Files.h"
@@ -187,22 +188,8 @@ void benchAll() {
 } // namespace quillford
 
 int main(int argc, char** argv) {
-    const QTemporaryDir home;
-    // The user's own settings and files stay out of it.
-    qputenv("HOME", home.path().toUtf8());
-    for (const char* variable :
-         {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "Temp"})
-        qunsetenv(variable);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QUILLFORD_TIME_SCALE", "0");
+    const quillford::BenchHome home;
     QApplication application(argc, argv);
     quillford::theme::apply(application);
-    try {
-        quillford::benchAll();
-    } catch (const quillford::Error& error) {
-        std::fprintf(stderr, "bench_saving: %s: %s\n", qPrintable(error.source()),
-                     qPrintable(error.description()));
-        return 2;
-    }
-    return 0;
+    return quillford::runBench("bench_saving", quillford::benchAll);
 }

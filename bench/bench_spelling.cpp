@@ -1,4 +1,5 @@
 #include "PairedTimes.h"
+#include "RunBench.h"
 #include "base/Error.h"
 #include "controls/LineField.h"
 #include "controls/SpellBinder.h"
@@ -148,12 +149,5 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     quillford::theme::apply(application);
-    try {
-        quillford::benchAll();
-    } catch (const quillford::Error& error) {
-        std::fprintf(stderr, "bench_spelling: %s: %s\n", qPrintable(error.source()),
-                     qPrintable(error.description()));
-        return 2;
-    }
-    return 0;
+    return quillford::runBench("bench_spelling", quillford::benchAll);
 }

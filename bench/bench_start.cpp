@@ -1,5 +1,6 @@
 #include "FirstPaint.h"
 #include "PairedTimes.h"
+#include "RunBench.h"
 #include "app/Program.h"
 #include "base/Error.h"
 #include "controls/ClickLabel.h"
@@ -140,12 +141,5 @@ void benchAll(int argc, char** argv) {
 int main(int argc, char** argv) {
     if (argc == 2 && std::strcmp(argv[1], quillford::Once) == 0)
         return quillford::startOnce(argc, argv);
-    try {
-        quillford::benchAll(argc, argv);
-    } catch (const quillford::Error& error) {
-        std::fprintf(stderr, "bench_start: %s: %s\n", qPrintable(error.source()),
-                     qPrintable(error.description()));
-        return 2;
-    }
-    return 0;
+    return quillford::runBench("bench_start", [&] { quillford::benchAll(argc, argv); });
 }

@@ -1,5 +1,6 @@
 #include "BenchProjects.h"
 #include "PairedTimes.h"
+#include "RunBench.h"
 #include "base/Error.h"
 #include "base/Text.h"
 #include "cli/CliVerification.h"
@@ -115,12 +116,5 @@ void benchAll() {
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    try {
-        quillford::benchAll();
-    } catch (const quillford::Error& error) {
-        std::fprintf(stderr, "bench_verify: %s: %s\n", qPrintable(error.source()),
-                     qPrintable(error.description()));
-        return 2;
-    }
-    return 0;
+    return quillford::runBench("bench_verify", quillford::benchAll);
 }

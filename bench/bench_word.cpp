@@ -1,5 +1,6 @@
 #include "BenchProjects.h"
 #include "PairedTimes.h"
+#include "RunBench.h"
 #include "base/Error.h"
 #include "core/fields/Project.h"
 #include "draft/compose/WordComposer.h"
@@ -89,12 +90,5 @@ void benchAll() {
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    try {
-        quillford::benchAll();
-    } catch (const quillford::Error& error) {
-        std::fprintf(stderr, "bench_word: %s: %s\n", qPrintable(error.source()),
-                     qPrintable(error.description()));
-        return 2;
-    }
-    return 0;
+    return quillford::runBench("bench_word", quillford::benchAll);
 }
