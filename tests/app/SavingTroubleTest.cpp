@@ -206,8 +206,8 @@ TEST_F(SavingTroubleTest, a_folder_that_was_removed_is_made_again_with_the_proje
 }
 
 TEST_F(SavingTroubleTest, a_folder_that_cannot_be_made_again_is_told_until_it_is_back) {
-    ASSERT_TRUE(QDir().mkpath(place(u"stick/work"_s)));
-    const QString path = sampleProject(u"stick/work/easel.ivd"_s);
+    ASSERT_TRUE(QDir().mkpath(place(u"stick/mine"_s)));
+    const QString path = sampleProject(u"stick/mine/easel.ivd"_s);
     start({path});
     write(u"It turns."_s);
     ASSERT_TRUE(QDir().rename(place(u"stick"_s), place(u"gone"_s)));
